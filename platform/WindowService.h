@@ -1,0 +1,76 @@
+// Windows, messages and input, under the names of the window system's own operations.
+//
+// Unless told otherwise every operation is for the user-interface thread, and an invalid handle gives 0,
+// False or an empty text, never an error.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/Types.h"
+
+namespace rux {
+
+struct TMessage {
+    HWnd Window = 0;
+    unsigned Number = 0;
+    WParam WParameter = 0;
+    LParam LParameter = 0;
+};
+
+using TWindowProcedure = std::function<LResult(HWnd, unsigned, WParam, LParam)>;
+/// Return False to end the enumeration.
+using TEnumWindowsProc = std::function<bool(HWnd)>;
+
+class TWindowService {
+ public:
+    virtual ~TWindowService() = default;
+
+    /// Runs the window procedure at once; from another thread it waits until the owner's loop has run it.
+    virtual LResult SendMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) = 0;
+    /// Queues the message; any thread. False when the window does not exist or the queue is full or closed.
+    virtual bool PostMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) = 0;
+    /// Takes the first queued message of `window` with first <= number <= last out of the queue.
+    virtual bool PeekMessageA(TMessage& message, HWnd window, unsigned first, unsigned last) = 0;
+    virtual unsigned RegisterWindowMessageA(const std::string& name) = 0;
+
+    /// Turns a function into a window procedure that can be set into a window. No exception leaves it: what
+    /// `procedure` raises goes to the application's own report, and the message answers 0.
+    virtual TWndProc MakeObjectInstance(TWindowProcedure procedure) = 0;
+    virtual void FreeObjectInstance(TWndProc instance) = 0;
+    virtual TWndProc GetWindowProc(HWnd window) = 0;
+    /// Answers the previous procedure, 0 on failure.
+    virtual TWndProc SetWindowProc(HWnd window, TWndProc procedure) = 0;
+    virtual LResult CallWindowProcA(TWndProc procedure, HWnd window, unsigned message, WParam wParam,
+                                    LParam lParam) = 0;
+
+    virtual bool IsWindow(HWnd window) = 0;
+    /// The whole parent chain counts.
+    virtual bool IsWindowVisible(HWnd window) = 0;
+    /// The window's own state alone.
+    virtual bool IsWindowEnabled(HWnd window) = 0;
+    virtual bool GetWindowRect(HWnd window, TRect& rect) = 0;
+    /// At most 254 bytes, as a buffer of 255 gives it.
+    virtual std::string GetWindowTextA(HWnd window) = 0;
+    virtual std::string GetClassNameA(HWnd window) = 0;
+    /// Process of the window's thread; 0 for no window.
+    virtual std::uint32_t GetWindowProcessId(HWnd window) = 0;
+    /// Top-level windows from the top of the stacking order down.
+    virtual void EnumWindows(const TEnumWindowsProc& proc) = 0;
+    /// All windows below `parent`, each directly followed by its own children.
+    virtual void EnumChildWindows(HWnd parent, const TEnumWindowsProc& proc) = 0;
+
+    /// 0 when no such atom exists.
+    virtual TAtom GlobalFindAtomA(const std::string& name) = 0;
+    virtual std::uintptr_t GetPropA(HWnd window, TAtom atom) = 0;
+
+    virtual TPoint ClientToScreen(HWnd window, TPoint point) = 0;
+    virtual TPoint ScreenToClient(HWnd window, TPoint point) = 0;
+    virtual HWnd SetActiveWindow(HWnd window) = 0;
+
+    /// Real keyboard input: goes to whatever window has the focus. Flag 2 is key-up.
+    virtual void keybd_event(std::uint8_t key, std::uint8_t scan, std::uint32_t flags,
+                             std::uintptr_t extra) = 0;
+};
+
+}  // namespace rux

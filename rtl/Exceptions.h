@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <exception>
-#include <source_location>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -57,8 +56,8 @@ using ETypeTransException = TNamedException<Exception, "ETypeTransException">;
 
 /// Raises EAssertionFailed with "<text> (<file>, line <n>)" when `condition` does not hold. The file is the
 /// source path below the project's root, as the compiler was told to record it.
-void Assert(bool condition, std::string_view text = "Assertion failure",
-            std::source_location where = std::source_location::current());
+void Assert(bool condition, std::string_view text = "Assertion failure", const char* file = __builtin_FILE(),
+            int line = __builtin_LINE());
 
 /// A call through a nil reference or a nil method pointer.
 [[noreturn]] void RaiseNilAccess();

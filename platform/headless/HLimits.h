@@ -1,0 +1,41 @@
+// Bounds and measures of the headless desktop.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "platform/Types.h"
+
+namespace rux {
+
+inline constexpr TRect HScreenRect{0, 0, 1280, 1024};
+/// Posted messages that one queue holds; a further one is refused, as the window system refuses it.
+inline constexpr std::size_t HQueueLimit = 10000;
+/// Text that GetWindowTextA returns at most: a buffer of 255 with its final zero.
+inline constexpr std::size_t HWindowTextLimit = 254;
+/// Windows alive at once.
+inline constexpr std::size_t HWindowLimit = 1u << 20;
+/// Handles of dead windows that rest before the first of them is given out again.
+inline constexpr std::size_t HWindowSlotsAtRest = 4096;
+/// Distance between reference numbers of objects, and where they begin: above every window handle.
+inline constexpr std::uint64_t HRefStep = 4096;
+inline constexpr std::uint64_t HRefBase = std::uint64_t{1} << 40;
+
+/// Files that stand on each other: frames within frames, forms above forms.
+inline constexpr std::size_t HFormAncestryLimit = 32;
+/// Objects that one load makes: frames within frames multiply.
+inline constexpr std::size_t HLoadedObjectLimit = 1u << 20;
+
+/// Frame and caption of the classic look at 96 dots per inch.
+inline constexpr int HSizeFrame = 4;
+inline constexpr int HFixedFrame = 3;
+inline constexpr int HCaptionHeight = 19;
+inline constexpr int HToolCaptionHeight = 16;
+inline constexpr int HMenuHeight = 19;
+/// Sunken edge of edits and lists.
+inline constexpr int HClientEdge = 2;
+/// Room that a page control leaves for its tabs above a page, and its border around it.
+inline constexpr int HTabHeight = 24;
+inline constexpr int HTabBorder = 4;
+
+}  // namespace rux

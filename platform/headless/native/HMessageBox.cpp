@@ -1,0 +1,60 @@
+#include "platform/headless/native/HMessageBox.h"
+
+#include "platform/headless/HLimits.h"
+#include "platform/headless/native/HNativeWindow.h"
+#include "rtl/CodePage.h"
+
+namespace rux {
+
+namespace {
+
+HWnd AddChild(HDesktop& desktop, HWnd parent, const char* className, const std::string& text,
+              const TRect& rect, std::shared_ptr<HWindowTarget> target) {
+    HCreateParams params;
+    params.ClassName = className;
+    params.Text = text;
+    params.Style = WS_CHILD | WS_VISIBLE;
+    params.Parent = parent;
+    params.Rect = rect;
+    params.OwnedTarget = std::move(target);
+    return desktop.CreateWindowA(params);
+}
+
+HWnd CreateBox(HDesktop& desktop, const std::shared_ptr<HNativeDialog>& dialog, const std::string& text,
+               const std::string& caption, HWnd owner) {
+    constexpr int width = 320, height = 140;
+    const int left = (HScreenRect.Width() - width) / 2, top = (HScreenRect.Height() - height) / 2;
+    HCreateParams params;
+    params.ClassName = "#32770";
+    params.Text = caption;
+    params.Style = WS_POPUP;
+    params.Parent = owner;
+    params.Rect = {left, top, left + width, top + height};
+    params.Insets = {HFixedFrame, HFixedFrame + HCaptionHeight, HFixedFrame, HFixedFrame};
+    params.OwnedTarget = dialog;
+    const HWnd box = desktop.CreateWindowA(params);
+    AddChild(desktop, box, "Static", text, {60, 16, 300, 60},
+             std::make_shared<HNativeWindow>(desktop, "Static"));
+    AddChild(desktop, box, "Static", "", {12, 16, 44, 48},
+             std::make_shared<HNativeWindow>(desktop, "Static"));
+    AddChild(desktop, box, "Button", Ansi("确定"), {120, 76, 195, 101},
+             std::make_shared<HNativeButton>(desktop, IDOK));
+    return box;
+}
+
+}  // namespace
+
+void RunMessageBox(HDesktop& desktop, const std::string& text, const std::string& caption, HWnd owner) {
+    desktop.Journal().Add(HEntry::Box, "box " + caption + ": " + text);
+    const auto dialog = std::make_shared<HNativeDialog>(desktop);
+    const HWnd box = CreateBox(desktop, dialog, text, caption, owner);
+    const bool ownerWasDisabled = desktop.EnableWindow(owner, false);
+    desktop.ShowWindow(box, true);
+    desktop.SetActiveWindow(box);
+    TMessage message;
+    while (dialog->Result() == 0 && desktop.GetMessage(message)) desktop.DispatchMessage(message);
+    if (!ownerWasDisabled) desktop.EnableWindow(owner, true);
+    desktop.DestroyWindow(box);
+}
+
+}  // namespace rux

@@ -1,0 +1,55 @@
+#include "platform/headless/native/HNativeWindow.h"
+
+namespace rux {
+
+bool HButtonClass::Handle(HWnd window, unsigned message, LParam lParam) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            FDesktop.SetFocus(window);
+            if (!FDesktop.Find(window)) return false;
+            FDesktop.SetCapture(window);
+            FPushed = true;
+            return false;
+        case WM_CAPTURECHANGED:
+            FPushed = false;
+            return false;
+        case WM_LBUTTONUP: {
+            if (!FPushed) return false;
+            FPushed = false;
+            if (FDesktop.GetCapture() == window) FDesktop.ReleaseCapture();
+            const HWindow* button = FDesktop.Find(window);
+            return button && button->ClientRect().Contains(PointOfParam(lParam));
+        }
+        default:
+            return false;
+    }
+}
+
+LResult HNativeButton::WndProc(HWnd window, unsigned message, WParam wParam, LParam lParam) {
+    if (FClass.Handle(window, message, lParam)) {
+        const HWindow* button = FDesktop.Find(window);
+        if (button && button->Parent)
+            FDesktop.Notify(button->Parent->Handle, WM_COMMAND, FId, static_cast<LParam>(window));
+        return 0;
+    }
+    return HNativeWindow::WndProc(window, message, wParam, lParam);
+}
+
+LResult HNativeDialog::WndProc(HWnd window, unsigned message, WParam wParam, LParam lParam) {
+    switch (message) {
+        case WM_COMMAND:
+            FResult = static_cast<unsigned>(wParam & 0xFFFF);
+            return 0;
+        case WM_CLOSE:
+            FResult = IDCANCEL;
+            return 0;
+        case WM_DESTROY:
+            if (FResult == 0) FResult = IDCANCEL;
+            return 0;
+        default:
+            return HNativeWindow::WndProc(window, message, wParam, lParam);
+    }
+}
+
+}  // namespace rux

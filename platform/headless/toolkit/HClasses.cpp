@@ -1,0 +1,67 @@
+#include "platform/headless/toolkit/HClasses.h"
+
+#include "rtl/Text.h"
+
+namespace rux {
+
+namespace {
+
+std::bitset<FacetCount> FacetsOf(std::string_view name, const TClass* parent) {
+    std::bitset<FacetCount> facets = parent ? parent->Facets() : std::bitset<FacetCount>();
+    for (std::size_t i = 0; i < FacetCount; ++i)
+        if (SameText(FacetNames[i], name)) facets.set(i);
+    return facets;
+}
+
+}  // namespace
+
+const TClass& HClasses::Define(std::string_view name, const TClass* parent) {
+    const TName id = InternName(name);
+    const std::uint64_t key = (std::uint64_t{id.Id} << 32) | (parent ? parent->Index() + 1 : 0);
+    if (const auto found = FByNameAndParent.find(key); found != FByNameAndParent.end()) return *found->second;
+    const auto index = static_cast<std::uint32_t>(FClasses.size());
+    const TClass& made = FClasses.emplace_back(std::string(name), parent, index, FacetsOf(name, parent));
+    FByNameAndParent.emplace(key, &made);
+    FByName.emplace(id.Id, &made);
+    return made;
+}
+
+const TClass* HClasses::Find(std::string_view name) const {
+    const auto found = FByName.find(FindName(name).Id);
+    return found == FByName.end() ? nullptr : found->second;
+}
+
+const HClassDef* HClasses::FindDef(std::string_view name) const {
+    const auto found = FDefByName.find(FindName(name).Id);
+    return found == FDefByName.end() ? nullptr : found->second;
+}
+
+const HClassDef& HClasses::Keep(HClassDef def) {
+    const HClassDef& kept = FDefs.emplace_back(std::move(def));
+    FDefByName.emplace(InternName(kept.Class->Name()).Id, &kept);
+    return kept;
+}
+
+const HClassDef& HClasses::Add(std::string_view name, std::string_view parentName, HMaker make,
+                               std::vector<HPropDef> props) {
+    const HClassDef* parent = parentName.empty() ? nullptr : FindDef(parentName);
+    Assert(parentName.empty() || parent, "A class needs its parent first");
+    HClassDef def;
+    def.Class = &Define(name, parent ? parent->Class : nullptr);
+    def.Parent = parent;
+    def.Make = make || !parent ? make : parent->Make;
+    def.Props = parent && props.empty()
+                    ? parent->Props
+                    : std::make_shared<HPropTable>(parent ? parent->Props.get() : nullptr, std::move(props));
+    return Keep(std::move(def));
+}
+
+const HClassDef& HClasses::AddUnknown(std::string_view name, const HClassDef& parent) {
+    HClassDef def = parent;
+    def.Class = &Define(name, parent.Class);
+    def.Parent = &parent;
+    def.Known = false;
+    return Keep(std::move(def));
+}
+
+}  // namespace rux

@@ -1,0 +1,99 @@
+// Components: names, ownership, events.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Types.h"
+#include "platform/headless/toolkit/HObject.h"
+
+namespace rux {
+
+/// What an event passes beyond its sender; handlers change it where the toolkit has var parameters.
+struct HEventArgs {
+    /// OnCloseQuery, OnChanging: whether it may go on.
+    bool Allow = true;
+    /// OnClose: the close action; OnKeyDown, OnKeyPress: the key, 0 to swallow it; else what the event
+    /// counts.
+    int Value = 0;
+    TPoint Point;
+};
+using HHandler = std::function<void(HObject& sender, HEventArgs& args)>;
+
+class HComponent : public With<HObject, TComponent> {
+ public:
+    using With::With;
+    ~HComponent() override = default;
+
+    std::string Name() override { return FName; }
+    void SetName(const std::string& name) { FName = name; }
+    const std::string& PlainName() const { return FName; }
+    TObject* Owner() override { return FOwner; }
+    HComponent* OwnerComponent() const { return FOwner; }
+    /// Names from the outermost owner down, joined by dots.
+    std::string Path() const;
+
+    /// What a form file nests the component in, where that is not a control's parent; nil for none.
+    HComponent* ParentComponent() const { return FParentComponent; }
+    void SetParentComponent(HComponent* parent) { FParentComponent = parent; }
+
+    /// Takes a component over; it dies with this one at the latest.
+    HComponent& Own(std::unique_ptr<HComponent> component);
+    const std::vector<std::unique_ptr<HComponent>>& Components() const { return FComponents; }
+    /// Compared without case; nil if there is none.
+    HComponent* FindComponent(std::string_view name) const;
+
+    /// Ends the component and all it owns. Its storage stays until no message is being handled any more.
+    void Free();
+    /// While a form file is being read nothing fires.
+    bool Loading() const { return FLoading; }
+    void BeginLoading() { FLoading = true; }
+    /// Called once all properties of the form file are in.
+    virtual void Loaded() { FLoading = false; }
+
+    // Events. A form file names a method; the code is looked up at the owner when the event fires.
+    void SetEvent(TName event, std::string method);
+    /// Code set at run time.
+    void SetHandler(std::string_view event, HHandler handler);
+    bool Assigned(TName event) const { return FindEvent(event) != nullptr; }
+    /// True when firing the event would run something.
+    bool HasCode(TName event) const;
+    /// Name of the method, empty without one.
+    std::string MethodOf(TName event) const;
+    /// Records the event and runs its code, if both are there. False when the event is not assigned.
+    bool Fire(TName event, HEventArgs& args);
+    bool Fire(TName event);
+    /// Gives a method of this form (frame, data module) its code.
+    void DefineMethod(std::string_view name, HHandler handler);
+    /// Also answers for events.
+    bool GetProp(TName name, TPropValue& value) override;
+
+ protected:
+    /// Takes the component out of what it is part of, before its components go.
+    virtual void Detach() {}
+
+ private:
+    struct TEvent {
+        TName Name;
+        std::string Method;
+        HHandler Code;
+    };
+    const TEvent* FindEvent(TName event) const;
+    TEvent& EventSlot(TName event);
+    const HHandler* FindMethod(TName method) const;
+    HHandler CodeOf(const TEvent& event) const;
+    void EndAll();
+
+    bool FLoading = false;
+    std::string FName;
+    HComponent* FOwner = nullptr;
+    HComponent* FParentComponent = nullptr;
+    std::vector<std::unique_ptr<HComponent>> FComponents;
+    std::vector<TEvent> FEvents;
+    std::vector<std::pair<TName, HHandler>> FMethods;
+};
+
+}  // namespace rux

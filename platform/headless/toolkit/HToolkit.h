@@ -1,0 +1,95 @@
+// The toolkit of the desktop in memory as a whole: classes, live objects, application, screen, mouse.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/headless/toolkit/HApplication.h"
+#include "platform/headless/toolkit/HClasses.h"
+#include "platform/headless/toolkit/HNames.h"
+#include "platform/headless/windows/HDesktop.h"
+#include "platform/toolkit/Forms.h"
+
+namespace rux {
+
+class HControl;
+class HCustomForm;
+class HWinControl;
+
+/// Lives on the user-interface thread, the one that made the desktop.
+class HToolkit final : public TToolkit, public TScreen, public TMouse {
+ public:
+    HToolkit(HDesktop& desktop, TClockService& clock);
+    ~HToolkit() override;
+
+    HDesktop& Desktop() const { return FDesktop; }
+    TClockService& Clock() const { return FClock; }
+    HClasses& ClassDefs() { return FClasses; }
+    HApplication& App() { return *FApplication; }
+    const HNames& Names() const { return FNames; }
+
+    /// An object of a class that is known by name, not yet owned by anybody.
+    std::unique_ptr<HObject> Make(std::string_view className);
+    template <class T>
+    std::unique_ptr<T> MakeAs(std::string_view className) {
+        std::unique_ptr<HObject> made = Make(className);
+        T* typed = dynamic_cast<T*>(made.get());
+        if (!typed) return nullptr;
+        made.release();
+        return std::unique_ptr<T>(typed);
+    }
+
+    void Remember(HObject& object) { FLive.emplace(object.RefNumber(), &object); }
+    void Forget(HObject& object) { FLive.erase(object.RefNumber()); }
+    TAtom ObjectAtom() const { return FObjectAtom; }
+    /// The control behind a window; nil for windows that the toolkit does not know.
+    HWinControl* ControlOf(HWnd window) const;
+
+    /// Screen.CustomForms: the most recently focused one first.
+    void AddForm(HCustomForm& form) { FForms.push_back(&form); }
+    void RemoveForm(HCustomForm& form);
+    void FormActivated(HCustomForm& form);
+    void FormDeactivated(HCustomForm& form);
+    const std::vector<HCustomForm*>& Forms() const { return FForms; }
+
+    /// The graphic control that gets the mouse messages of its parent's captured window; nil for none.
+    HControl* CaptureControl() const { return FCaptureControl; }
+    void SetCaptureControl(HControl* control);
+
+    /// Disables every enabled, visible top-level window but one and answers which.
+    std::vector<HWnd> DisableTaskWindows(HWnd except);
+    void EnableTaskWindows(const std::vector<HWnd>& windows);
+
+    // TToolkit, TScreen, TMouse
+    TObject& Application() override;
+    TScreen& Screen() override { return *this; }
+    TMouse& Mouse() override { return *this; }
+    TClassTable& Classes() override { return FClasses; }
+    TObject* ObjectOfProp(std::uintptr_t value) override;
+    std::uint64_t NewRefNumber() override;
+    TObject* ActiveForm() override;
+    int CustomFormCount() override { return static_cast<int>(FForms.size()); }
+    TObject* CustomForms(int index) override;
+    TPoint CursorPos() override { return FDesktop.GetCursorPos(); }
+    void SetCursorPos(TPoint point) override { FDesktop.SetCursorPos(point); }
+
+ private:
+    HDesktop& FDesktop;
+    TClockService& FClock;
+    HNames FNames;
+    HClasses FClasses;
+    std::uint64_t FNextRef;
+    std::unordered_map<std::uint64_t, HObject*> FLive;
+    TAtom FObjectAtom = 0;
+    std::vector<HCustomForm*> FForms;
+    HCustomForm* FActiveForm = nullptr;
+    HControl* FCaptureControl = nullptr;
+    std::unique_ptr<HApplication> FApplication;
+};
+
+/// Fills the class table with everything that the headless toolkit knows.
+void RegisterToolkitClasses(HClasses& classes);
+
+}  // namespace rux

@@ -1,0 +1,170 @@
+// The window system of the desktop in memory: windows, their order and state, messages, focus, capture,
+// cursor.
+//
+// One thread, the one that makes the desktop, owns all windows. PostMessageA, SendMessageA, IsWindow, atoms
+// and Quit may be used from any thread.
+#pragma once
+
+#include <atomic>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/ClockService.h"
+#include "platform/KernelService.h"
+#include "platform/WindowService.h"
+#include "platform/headless/windows/HJournal.h"
+#include "platform/headless/windows/HMessageQueue.h"
+#include "platform/headless/windows/HWindowTable.h"
+
+namespace rux {
+
+class HDesktop final : public TWindowService {
+ public:
+    /// Reports an error that a procedure installed from outside let through: the application's own report.
+    using TReport = std::function<void(const std::exception&)>;
+
+    HDesktop(TKernelService& kernel, TClockService& clock);
+    ~HDesktop() override;
+
+    HJournal& Journal() { return FJournal; }
+    std::uint32_t ProcessId() { return FKernel.GetCurrentProcessId(); }
+    void SetErrorReport(TReport report) { FReport = std::move(report); }
+
+    // Windows. 0 or nothing happens when a handle is invalid.
+    HWnd CreateWindowA(const HCreateParams& params);
+    void DestroyWindow(HWnd window);
+    HWindow* Find(HWnd window) const { return FTable.Find(window); }
+    bool ShowWindow(HWnd window, bool visible);
+    /// Answers whether the window was disabled before.
+    bool EnableWindow(HWnd window, bool enabled);
+    /// New rectangle, in the parent's client area for child windows. Everything below moves along.
+    void MoveWindow(HWnd window, const TRect& rect);
+    void SetInsets(HWnd window, const HInsets& insets);
+    void BringWindowToTop(HWnd window);
+    TAtom GlobalAddAtomA(const std::string& name);
+    void SetPropA(HWnd window, TAtom atom, std::uintptr_t value);
+
+    // Focus, activation, capture, keyboard and cursor.
+    HWnd GetFocus() const { return FFocus; }
+    /// Fails when the window or one of its parents is disabled.
+    bool SetFocus(HWnd window);
+    HWnd GetActiveWindow() const { return FActive; }
+    HWnd GetCapture() const { return FCapture; }
+    void SetCapture(HWnd window);
+    void ReleaseCapture() { SetCapture(0); }
+    TPoint GetCursorPos() const { return FCursor; }
+    /// Clipped to the screen.
+    void SetCursorPos(TPoint point);
+    bool KeyIsDown(unsigned key) const { return FKeys[key & 0xFF]; }
+
+    // The message loop.
+    /// Waits for the next message. False when the loops are to end; every further call answers False too.
+    bool GetMessage(TMessage& message);
+    /// The same without waiting: False also when there is none.
+    bool PeekAny(TMessage& message);
+    void DispatchMessage(const TMessage& message);
+    /// Makes all loops end. Any thread.
+    void Quit();
+    bool Quitting() const { return FQuit; }
+    /// What a window's own procedure leaves to the system.
+    LResult DefWindowProc(HWnd window, unsigned message, WParam wParam, LParam lParam);
+    /// Sends without a line in the journal: the system's own notifications.
+    LResult Notify(HWnd window, unsigned message, WParam wParam, LParam lParam);
+    /// Keeps something that is dead until no message is being handled any more.
+    void Bury(std::shared_ptr<void> dead);
+    /// Frees what was buried, if no message is being handled.
+    void EmptyGraveyard();
+
+    using TTimerProc = std::function<void()>;
+    /// Calls `proc` every `milliseconds` from the message loop. Answers the timer's number.
+    unsigned SetTimer(std::uint32_t milliseconds, TTimerProc proc);
+    void KillTimer(unsigned timer);
+
+    // TWindowService
+    LResult SendMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) override;
+    bool PostMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) override;
+    bool PeekMessageA(TMessage& message, HWnd window, unsigned first, unsigned last) override;
+    unsigned RegisterWindowMessageA(const std::string& name) override;
+    TWndProc MakeObjectInstance(TWindowProcedure procedure) override;
+    void FreeObjectInstance(TWndProc instance) override;
+    TWndProc GetWindowProc(HWnd window) override;
+    TWndProc SetWindowProc(HWnd window, TWndProc procedure) override;
+    LResult CallWindowProcA(TWndProc procedure, HWnd window, unsigned message, WParam wParam,
+                            LParam lParam) override;
+    bool IsWindow(HWnd window) override { return FTable.Exists(window); }
+    bool IsWindowVisible(HWnd window) override;
+    bool IsWindowEnabled(HWnd window) override;
+    bool GetWindowRect(HWnd window, TRect& rect) override;
+    std::string GetWindowTextA(HWnd window) override;
+    std::string GetClassNameA(HWnd window) override;
+    std::uint32_t GetWindowProcessId(HWnd window) override;
+    void EnumWindows(const TEnumWindowsProc& proc) override;
+    void EnumChildWindows(HWnd parent, const TEnumWindowsProc& proc) override;
+    TAtom GlobalFindAtomA(const std::string& name) override;
+    std::uintptr_t GetPropA(HWnd window, TAtom atom) override;
+    TPoint ClientToScreen(HWnd window, TPoint point) override;
+    TPoint ScreenToClient(HWnd window, TPoint point) override;
+    HWnd SetActiveWindow(HWnd window) override;
+    void keybd_event(std::uint8_t key, std::uint8_t scan, std::uint32_t flags, std::uintptr_t extra) override;
+
+ private:
+    struct TSentMessage;
+    struct TTimer {
+        std::uint64_t Due = 0;
+        std::uint32_t Interval = 0;
+        TTimerProc Proc;
+    };
+
+    LResult CallTarget(HWnd window, unsigned message, WParam wParam, LParam lParam);
+    LResult SendFromOtherThread(HWnd window, unsigned message, WParam wParam, LParam lParam);
+    void RunSentMessages();
+    bool NextMessage(TMessage& message);
+    bool ResolveKey(TMessage& message);
+    bool DueTimer(TMessage& message);
+    std::uint32_t TimeToNextTimer();
+    void RunTimer(unsigned timer);
+    void TranslateKey(const TMessage& message);
+
+    std::vector<HWindow*>& Siblings(const HWindow& window);
+    void Raise(HWindow& window);
+    void ActivateNext(HWnd leaving);
+    void DropInput(HWnd window);
+    void JournalMessage(HEntry kind, const char* verb, HWnd window, unsigned message, WParam wParam,
+                        LParam lParam);
+
+    TKernelService& FKernel;
+    TClockService& FClock;
+    const std::uintptr_t FThread;
+    HJournal FJournal;
+    TReport FReport;
+
+    HWindowTable FTable;
+    std::vector<HWindow*> FTopLevel;  // bottom to top
+    HMessageQueue FQueue;
+    std::atomic<bool> FQuit{false};
+    int FDepth = 0;
+    std::vector<std::shared_ptr<void>> FGraveyard;
+
+    std::mutex FSharedLock;  // guards what other threads reach: atoms, registered messages, sent messages
+    std::map<std::string, TAtom> FAtoms;
+    std::map<std::string, unsigned> FRegistered;
+    std::deque<std::shared_ptr<TSentMessage>> FSent;
+
+    std::unordered_map<TWndProc, std::shared_ptr<TWindowProcedure>> FProcs;
+    TWndProc FNextProc = 0;
+
+    std::map<unsigned, TTimer> FTimers;
+    unsigned FNextTimer = 1;
+
+    HWnd FFocus = 0, FActive = 0, FCapture = 0;
+    TPoint FCursor;
+    std::vector<bool> FKeys = std::vector<bool>(256);
+};
+
+}  // namespace rux

@@ -1,0 +1,253 @@
+// Messages of the desktop: sending, posting, the loop, timers, window procedures.
+#include <algorithm>
+
+#include "platform/headless/windows/HDesktop.h"
+#include "platform/headless/windows/HMessageNames.h"
+#include "rtl/Exceptions.h"
+#include "rtl/Text.h"
+
+namespace rux {
+
+namespace {
+
+/// Base of the numbers that stand for a window's own target as a procedure.
+constexpr TWndProc TargetProcBase = TWndProc{1} << 33;
+
+}  // namespace
+
+/// A message that another thread sends and waits for.
+struct HDesktop::TSentMessage {
+    TMessage Message;
+    LResult Result = 0;
+    std::unique_ptr<TEvent> Done;
+};
+
+LResult HDesktop::CallTarget(HWnd handle, unsigned message, WParam wParam, LParam lParam) {
+    HWindow* window = FTable.Find(handle);
+    if (!window) return 0;
+    if (window->Target) return window->Target->WndProc(handle, message, wParam, lParam);
+    return DefWindowProc(handle, message, wParam, lParam);
+}
+
+LResult HDesktop::Notify(HWnd handle, unsigned message, WParam wParam, LParam lParam) {
+    const HWindow* window = FTable.Find(handle);
+    if (!window) return 0;
+    ++FDepth;
+    const LResult result = window->Override
+                               ? CallWindowProcA(window->Override, handle, message, wParam, lParam)
+                               : CallTarget(handle, message, wParam, lParam);
+    --FDepth;
+    return result;
+}
+
+LResult HDesktop::SendMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) {
+    if (FKernel.GetCurrentThreadId() != FThread) return SendFromOtherThread(window, message, wParam, lParam);
+    JournalMessage(HEntry::Sent, "send ", window, message, wParam, lParam);
+    return Notify(window, message, wParam, lParam);
+}
+
+LResult HDesktop::SendFromOtherThread(HWnd window, unsigned message, WParam wParam, LParam lParam) {
+    const auto sent = std::make_shared<TSentMessage>();
+    sent->Message = {window, message, wParam, lParam};
+    sent->Done = FKernel.CreateEventA();
+    {
+        const std::lock_guard lock(FSharedLock);
+        if (FQuit) return 0;
+        FSent.push_back(sent);
+    }
+    FQueue.Wake();
+    sent->Done->WaitFor(WaitForever);
+    return sent->Result;
+}
+
+void HDesktop::RunSentMessages() {
+    while (true) {
+        std::shared_ptr<TSentMessage> sent;
+        {
+            const std::lock_guard lock(FSharedLock);
+            if (FSent.empty()) return;
+            sent = FSent.front();
+            FSent.pop_front();
+        }
+        const TMessage& m = sent->Message;
+        if (!FQuit) sent->Result = SendMessageA(m.Window, m.Number, m.WParameter, m.LParameter);
+        sent->Done->SetEvent();
+    }
+}
+
+bool HDesktop::PostMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) {
+    if (!FTable.Exists(window)) return false;
+    if (FKernel.GetCurrentThreadId() == FThread)
+        JournalMessage(HEntry::Posted, "post ", window, message, wParam, lParam);
+    return FQueue.Put({window, message, wParam, lParam});
+}
+
+bool HDesktop::PeekMessageA(TMessage& message, HWnd window, unsigned first, unsigned last) {
+    const std::optional<TMessage> found = FQueue.TakeOf(window, first, last);
+    if (found) message = *found;
+    return found.has_value();
+}
+
+unsigned HDesktop::RegisterWindowMessageA(const std::string& name) {
+    const std::lock_guard lock(FSharedLock);
+    const auto next = WM_REGISTERED_FIRST + static_cast<unsigned>(FRegistered.size());
+    return FRegistered.emplace(UpperCase(name), next).first->second;
+}
+
+// ---------------------------------------------------------------------------------------------- procedures
+
+TWndProc HDesktop::MakeObjectInstance(TWindowProcedure procedure) {
+    FNextProc += 16;
+    FProcs[FNextProc] = std::make_shared<TWindowProcedure>(std::move(procedure));
+    return FNextProc;
+}
+
+void HDesktop::FreeObjectInstance(TWndProc instance) {
+    FProcs.erase(instance);
+}
+
+TWndProc HDesktop::GetWindowProc(HWnd handle) {
+    const HWindow* window = FTable.Find(handle);
+    if (!window) return 0;
+    return window->Override ? window->Override : TargetProcBase + handle;
+}
+
+TWndProc HDesktop::SetWindowProc(HWnd handle, TWndProc procedure) {
+    HWindow* window = FTable.Find(handle);
+    if (!window) return 0;
+    const TWndProc previous = GetWindowProc(handle);
+    window->Override = procedure == TargetProcBase + handle ? 0 : procedure;
+    return previous;
+}
+
+LResult HDesktop::CallWindowProcA(TWndProc procedure, HWnd window, unsigned message, WParam wParam,
+                                  LParam lParam) {
+    if (procedure >= TargetProcBase) return CallTarget(procedure - TargetProcBase, message, wParam, lParam);
+    const auto found = FProcs.find(procedure);
+    if (found == FProcs.end()) return 0;
+    // The procedure may free its own instance while it runs.
+    const std::shared_ptr<TWindowProcedure> function = found->second;
+    try {
+        return (*function)(window, message, wParam, lParam);
+    } catch (const std::exception& error) {
+        if (FReport) FReport(error);
+    } catch (...) {
+        if (FReport) FReport(Exception("Unknown exception"));
+    }
+    return 0;
+}
+
+LResult HDesktop::DefWindowProc(HWnd handle, unsigned message, WParam wParam, LParam lParam) {
+    HWindow* window = FTable.Find(handle);
+    if (!window) return 0;
+    switch (message) {
+        case WM_GETTEXT: {
+            if (wParam == 0) return 0;
+            const std::size_t count = std::min<std::size_t>(window->Text.size(), wParam - 1);
+            char* buffer = reinterpret_cast<char*>(lParam);
+            std::copy_n(window->Text.begin(), count, buffer);
+            buffer[count] = 0;
+            return static_cast<LResult>(count);
+        }
+        case WM_GETTEXTLENGTH:
+            return static_cast<LResult>(window->Text.size());
+        case WM_SETTEXT:
+            window->Text = lParam ? reinterpret_cast<const char*>(lParam) : "";
+            return 1;
+        case WM_CLOSE:
+            DestroyWindow(handle);
+            return 0;
+        default:
+            return 0;
+    }
+}
+
+// ---------------------------------------------------------------------------------------------- the loop
+
+bool HDesktop::NextMessage(TMessage& message) {
+    RunSentMessages();
+    while (const std::optional<TMessage> taken = FQueue.Take()) {
+        message = *taken;
+        if (message.Window == 0 ? ResolveKey(message) : FTable.Find(message.Window) != nullptr) return true;
+    }
+    return DueTimer(message);
+}
+
+bool HDesktop::GetMessage(TMessage& message) {
+    while (!FQuit) {
+        if (NextMessage(message)) return true;
+        EmptyGraveyard();
+        if (!FQuit) FQueue.Wait(TimeToNextTimer());
+    }
+    return false;
+}
+
+bool HDesktop::PeekAny(TMessage& message) {
+    return !FQuit && NextMessage(message);
+}
+
+void HDesktop::Quit() {
+    FQuit = true;
+    FQueue.Wake();
+}
+
+void HDesktop::DispatchMessage(const TMessage& message) {
+    if (message.Number == WM_TIMER && message.Window == 0) {
+        RunTimer(static_cast<unsigned>(message.WParameter));
+        return;
+    }
+    TranslateKey(message);
+    Notify(message.Window, message.Number, message.WParameter, message.LParameter);
+}
+
+unsigned HDesktop::SetTimer(std::uint32_t milliseconds, TTimerProc proc) {
+    const unsigned timer = FNextTimer++;
+    FTimers[timer] = {FClock.TickCount() + milliseconds, milliseconds, std::move(proc)};
+    return timer;
+}
+
+void HDesktop::KillTimer(unsigned timer) {
+    FTimers.erase(timer);
+}
+
+bool HDesktop::DueTimer(TMessage& message) {
+    if (FTimers.empty()) return false;
+    const std::uint64_t now = FClock.TickCount();
+    for (auto& [number, timer] : FTimers) {
+        if (timer.Due > now) continue;
+        timer.Due = now + std::max<std::uint32_t>(timer.Interval, 1);
+        message = {0, WM_TIMER, number, 0};
+        return true;
+    }
+    return false;
+}
+
+std::uint32_t HDesktop::TimeToNextTimer() {
+    if (FTimers.empty()) return WaitForever;
+    std::uint64_t due = UINT64_MAX;
+    for (const auto& [number, timer] : FTimers) due = std::min(due, timer.Due);
+    const std::uint64_t now = FClock.TickCount();
+    return due <= now ? 0 : static_cast<std::uint32_t>(std::min<std::uint64_t>(due - now, WaitForever - 1));
+}
+
+void HDesktop::RunTimer(unsigned number) {
+    const auto found = FTimers.find(number);
+    if (found == FTimers.end()) return;
+    const TTimerProc proc = found->second.Proc;
+    ++FDepth;
+    proc();
+    --FDepth;
+}
+
+void HDesktop::JournalMessage(HEntry kind, const char* verb, HWnd handle, unsigned message, WParam wParam,
+                              LParam lParam) {
+    if (!FJournal.Wants(kind)) return;
+    const HWindow* window = FTable.Find(handle);
+    std::string line = verb;
+    line += !window          ? std::string("nothing")
+            : window->Target ? window->Target->JournalName()
+                             : window->ClassName;
+    FJournal.Add(kind, line + " " + DescribeMessage(message, wParam, lParam));
+}
+
+}  // namespace rux

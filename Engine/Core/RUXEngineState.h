@@ -1,0 +1,76 @@
+// The state of one engine: what the system calls its globals. Made and freed with the engine.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+
+#include "Engine/Core/RUXLog.h"
+#include "Engine/Core/RUXRequestStack.h"
+#include "platform/Platform.h"
+#include "rtl/Names.h"
+
+namespace rux {
+
+class TCheckEnabledMethodGroup;
+class TIniClassGroup;
+class TRUXIntfDefineList;
+class TTypeRegistry;
+
+/// The way to the user-interface thread, as the lower units see the task centre.
+class ITaskCenter {
+ public:
+    /// Posts a message of the task centre; answers whether that succeeded. Any thread.
+    virtual bool PostTask(unsigned message, WParam wParam, LParam lParam) = 0;
+    /// The request whose Execute is running innermost; nil for none. User-interface thread.
+    virtual ITestRequest* Running() const = 0;
+    /// Takes over what a request leaves behind that dies on another thread; freed on the user-interface
+    /// thread.
+    virtual void Bury(TObjectPool pool) = 0;
+
+ protected:
+    ~ITaskCenter() = default;
+};
+
+/// Names of properties that finders ask for again and again.
+struct TPropertyNames {
+    TName Caption = InternName("Caption"), Text = InternName("Text"), Hint = InternName("Hint"),
+          Name = InternName("Name"), ReadOnly = InternName("ReadOnly");
+};
+
+struct TEngineState {
+    explicit TEngineState(TPlatform& platform);
+    ~TEngineState();
+
+    TPlatform& Platform;
+    const TPropertyNames PropertyNames;
+    /// 0 until the port is taken.
+    std::uint16_t ServerPort = 0;
+    TLogger Logger;
+
+    TRequestStack RequestStack;
+    TSeenWindows SeenWindows;
+    /// Set by an adapter that left its last step to a posted click.
+    std::atomic<bool> DeferredFinish{false};
+    TPendingNodeError PendingNodeError;
+    /// nil until the task centre is made.
+    std::atomic<ITaskCenter*> TaskCenter{nullptr};
+
+    /// The tool bar pop-up that is open, and the outermost one; nil for none. User-interface thread.
+    TObject* CurrentPopup = nullptr;
+    TObject* RootPopup = nullptr;
+
+    std::unique_ptr<TTypeRegistry> Registry;
+    std::unique_ptr<TIniClassGroup> ClassGroup;
+    std::unique_ptr<TCheckEnabledMethodGroup> MethodGroup;
+    std::unique_ptr<TRUXIntfDefineList> IntfDefines;
+};
+
+/// The engine that stands. Asserts that there is one.
+TEngineState& Engine();
+bool EngineStands();
+inline TPlatform& Platform() {
+    return Engine().Platform;
+}
+
+}  // namespace rux

@@ -1,0 +1,33 @@
+// Everything that bounds what a client can make the engine do.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace rux {
+
+/// Request line and headers together; past it the connection ends without an answer.
+inline constexpr std::size_t HttpHeadLimit = std::size_t{1} << 20;
+/// Longest body that is read (and dropped); a larger length means no body.
+inline constexpr long long HttpBodyLimit = 2147483647;
+/// Bytes of a body that are in memory at once.
+inline constexpr std::size_t HttpBodyPiece = 64 * 1024;
+/// Milliseconds of every receive.
+inline constexpr int HttpReceiveTimeout = 120000;
+/// Milliseconds of one look at the listening socket.
+inline constexpr int HttpAcceptTimeout = 1000;
+/// Requests that run inside each other on the user-interface thread; a further one is set aside.
+inline constexpr int RequestNestingLimit = 64;
+/// Bytes of stack that must be left to begin one more nested request.
+inline constexpr std::size_t RequestStackReserve = 256 * 1024;
+/// Milliseconds that a caller waits for its request: one hour.
+inline constexpr std::uint32_t RequestWaitTimeout = 3600000;
+/// Steps of one locator, and position steps among them: each of those searches the application anew.
+inline constexpr std::size_t LocatorStepLimit = 1024;
+inline constexpr std::size_t LocatorPositionLimit = 32;
+/// Entries that the text of an ambiguous result lists.
+inline constexpr std::size_t AmbiguityReportLimit = 1000;
+/// Bytes of the report of everything that was searched, which goes into the log of a failed search.
+inline constexpr std::size_t RootReportLimit = std::size_t{1} << 20;
+
+}  // namespace rux

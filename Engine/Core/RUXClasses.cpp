@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-
 namespace rux {
 
 std::size_t TObjectPool::Add(std::unique_ptr<TObject> object, const void* maker) {

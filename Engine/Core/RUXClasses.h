@@ -13,8 +13,6 @@
 
 namespace rux {
 
-
-
 /// Any failure that the engine itself reports.
 using ERUXException = TNamedException<Exception, "ERUXException">;
 /// The request text cannot be split.

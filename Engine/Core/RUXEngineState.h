@@ -4,9 +4,11 @@
 #include <atomic>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 
 #include "Engine/Core/RUXLog.h"
 #include "Engine/Core/RUXRequestStack.h"
+#include "Engine/Core/RUXThreads.h"
 #include "platform/Platform.h"
 #include "rtl/Names.h"
 
@@ -32,6 +34,22 @@ class ITaskCenter {
     ~ITaskCenter() = default;
 };
 
+/// The task centre while there is one. Workers may use it while it is being freed.
+class TTaskCenterHolder {
+ public:
+    void Set(ITaskCenter* center);
+    /// nil when there is none. User-interface thread, which makes and frees it.
+    ITaskCenter* Get() const { return FCenter; }
+    /// False also without a task centre. Any thread.
+    bool PostTask(unsigned message, WParam wParam, LParam lParam);
+    /// Without a task centre the pool is freed at once. Any thread.
+    void Bury(TObjectPool pool);
+
+ private:
+    std::mutex FLock;
+    ITaskCenter* FCenter = nullptr;
+};
+
 /// Names of properties that finders ask for again and again.
 struct TPropertyNames {
     TName Caption = InternName("Caption"), Text = InternName("Text"), Hint = InternName("Hint"),
@@ -53,8 +71,8 @@ struct TEngineState {
     /// Set by an adapter that left its last step to a posted click.
     std::atomic<bool> DeferredFinish{false};
     TPendingNodeError PendingNodeError;
-    /// nil until the task centre is made.
-    std::atomic<ITaskCenter*> TaskCenter{nullptr};
+    TTaskCenterHolder TaskCenter;
+    TEngineThreads Threads;
 
     /// The tool bar pop-up that is open, and the outermost one; nil for none. User-interface thread.
     TObject* CurrentPopup = nullptr;

@@ -48,6 +48,8 @@ class ICommonLocator : public IInterface {
     virtual TIntf<ICommonLocator> SelectIndex(std::string_view indexText) = 0;
     /// Place of the new entry; -1 for nil and for a thing that is there already.
     virtual int AddUnique(const TIntf<IFindAdapter>& item) = 0;
+    /// True once for each thing: what was walked into this list before has nothing new to give.
+    virtual bool EnterOnce(IFindAdapter& item) = 0;
     virtual int GetCount() = 0;
     /// Asserts that the index lies within the list.
     virtual TIntf<IFindAdapter> GetItem(int index) = 0;

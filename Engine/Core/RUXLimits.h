@@ -25,9 +25,5 @@ inline constexpr std::uint32_t RequestWaitTimeout = 3600000;
 /// Steps of one locator, and position steps among them: each of those searches the application anew.
 inline constexpr std::size_t LocatorStepLimit = 1024;
 inline constexpr std::size_t LocatorPositionLimit = 32;
-/// Entries that the text of an ambiguous result lists.
-inline constexpr std::size_t AmbiguityReportLimit = 1000;
-/// Bytes of the report of everything that was searched, which goes into the log of a failed search.
-inline constexpr std::size_t RootReportLimit = std::size_t{1} << 20;
 
 }  // namespace rux

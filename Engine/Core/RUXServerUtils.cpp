@@ -33,7 +33,7 @@ std::string GetPicUrlPrefix() {
 std::size_t AddToObjectPool(std::unique_ptr<TObject> object) {
     const TIntf<ITestRequest> oldest = Engine().RequestStack.First();
     Assert(static_cast<bool>(oldest));
-    const ITaskCenter* center = Engine().TaskCenter;
+    const ITaskCenter* center = Engine().TaskCenter.Get();
     return oldest->GetObjectPool().Add(std::move(object), center ? center->Running() : nullptr);
 }
 

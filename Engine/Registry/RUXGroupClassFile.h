@@ -4,9 +4,9 @@
 
 #include <cstdint>
 #include <mutex>
+#include <span>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "platform/toolkit/Classes.h"
@@ -16,7 +16,8 @@ namespace rux {
 
 struct TGroupRows {
     std::string_view Section;
-    std::vector<std::string_view> Idents;
+    /// Separated by one blank each.
+    std::string_view Idents;
 };
 
 /// Base of both. Queries may come from the user-interface thread and from workers; the tables are guarded.
@@ -25,11 +26,13 @@ class TRUXGroupClassFile {
     virtual ~TRUXGroupClassFile() = default;
 
     /// Reads the file (an absent one is empty), adds the default rows and writes the file back if its bytes
-    /// would change. A file that cannot be written is a warning in the log; the table then lives in memory.
+    /// would change. A file that cannot be written is one warning in the log; the table then lives in memory.
+    /// A file that is there but cannot be read is the same warning, leaves the rows that are known in force
+    /// and is never overwritten; the next query tries again.
     void LoadFile();
     /// A row in memory only.
     void AddClass(std::string_view group, std::string_view className);
-    /// Writes the file if its bytes would change, and remembers its time stamp.
+    /// Writes the file if its bytes would change, and remembers its time stamp. Warns as LoadFile does.
     void SaveFile();
     /// Type words in file order.
     std::vector<std::string> GetGroups();
@@ -38,17 +41,25 @@ class TRUXGroupClassFile {
     virtual std::string GetFileName() const = 0;
     /// Writes the default rows.
     virtual void InitDefault() = 0;
-    void AddRows(const std::vector<TGroupRows>& rows);
+    void AddRows(std::span<const TGroupRows> rows);
     /// Loads anew when the file's time stamp differs from the one last seen, in either direction. The lock is
     /// held.
     void RefreshIfChanged();
 
-    std::recursive_mutex FLock;
+    std::mutex FLock;
     TMemIniFile FIni;
 
  private:
+    void Load();
+    void Update(const std::string& name, std::string_view current, std::int64_t stamp);
+    void Warn();
+    void WriteWarning();
+
     std::int64_t FLastWrite = 0;
-    std::string FSaved;
+    /// The file could not be read or written when it was last tried.
+    bool FFailed = false;
+    /// The first tries happen before the log has a place.
+    bool FWarningDue = false;
 };
 
 /// Which classes count as a type word.
@@ -65,6 +76,9 @@ class TIniClassGroup final : public TRUXGroupClassFile {
  protected:
     std::string GetFileName() const override;
     void InitDefault() override;
+
+ private:
+    bool ContainsHeld(std::string_view group, std::string_view className, const TObject* instance) const;
 };
 
 /// Which methods of a type word demand an enabled control.
@@ -77,7 +91,7 @@ class TCheckEnabledMethodGroup final : public TRUXGroupClassFile {
     void InitDefault() override;
 };
 
-/// The engine's instances, made on first use.
+/// The engine's instances, made and loaded on first use. Any thread.
 TIniClassGroup& IniClassGroup();
 TCheckEnabledMethodGroup& CheckEnabledMethodGroup();
 

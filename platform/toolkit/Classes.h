@@ -24,12 +24,13 @@ enum class TFacetId : std::uint8_t {
     CustomCheckBox,
     RadioButton,
     DateTimePicker,
+    BaseVirtualControl,
     Count,
 };
 inline constexpr std::size_t FacetCount = static_cast<std::size_t>(TFacetId::Count);
 inline constexpr std::string_view FacetNames[FacetCount] = {
     "TApplication", "TComponent",      "TControl",     "TWinControl",     "TCustomForm",
-    "TCustomEdit",  "TCustomCheckBox", "TRadioButton", "TDateTimePicker",
+    "TCustomEdit",  "TCustomCheckBox", "TRadioButton", "TDateTimePicker", "TBaseVirtualControl",
 };
 
 /// A class of the live application: a name over a parent. The C++ type behind it is never asked.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <system_error>
 
 #include "platform/headless/forms/FormChars.h"
@@ -43,19 +42,12 @@ char SuffixOf(std::string_view text) {
     return last >= 'a' && last <= 'z' ? last : '\0';
 }
 
-/// The number of ten-thousandths that gives exactly `value` when divided again. Rounding twice may miss it by
-/// a step or two.
+/// Ten-thousandths that give exactly `value` when divided again, as every value that came from a division
+/// does when it is multiplied back. A currency has whole ones; the product may miss them by a hair.
 double CurrencyNumber(double value) {
     double number = value * CurrencyUnits;
-    double below = number;
-    double above = number;
-    for (int step = 0; step < 4; ++step) {
-        if (below / CurrencyUnits == value) return below;
-        if (above / CurrencyUnits == value) return above;
-        below = std::nextafter(below, -std::numeric_limits<double>::infinity());
-        above = std::nextafter(above, std::numeric_limits<double>::infinity());
-    }
-    return number;
+    double whole = std::round(number);
+    return whole / CurrencyUnits == value ? whole : number;
 }
 
 }  // namespace

@@ -83,12 +83,6 @@ bool TFormTokens::IsConflict() const {
            mark.find_first_not_of(mark[0]) == std::string_view::npos;
 }
 
-std::string_view TFormTokens::WordAt(std::size_t pos) const {
-    std::size_t end = pos;
-    while (end < FText.size() && !IsFormBlank(FText[end])) ++end;
-    return FText.substr(pos, end - pos);
-}
-
 std::size_t TFormTokens::SkipDigits(std::size_t pos) const {
     while (IsFormDigit(At(pos))) ++pos;
     return pos;
@@ -169,7 +163,9 @@ void TFormTokens::ReadConflict() {
 }
 
 void TFormTokens::ReadForeign() {
-    Finish(TFormTokenKind::Foreign, FPos + WordAt(FPos).size());
+    std::size_t end = FPos;
+    while (end < FText.size() && !IsFormBlank(FText[end])) ++end;
+    Finish(TFormTokenKind::Foreign, end);
 }
 
 }  // namespace rux

@@ -54,7 +54,6 @@ class TFormTokens {
 
  private:
     char At(std::size_t pos) const { return pos < FText.size() ? FText[pos] : '\0'; }
-    std::string_view WordAt(std::size_t pos) const;
     std::size_t SkipDigits(std::size_t pos) const;
     std::size_t SkipExponent(std::size_t pos) const;
     bool IsConflict() const;

@@ -44,11 +44,11 @@ void HComponent::EndAll() {
     std::vector<HComponent*> all{this};
     for (std::size_t i = 0; i < all.size(); ++i)
         for (const auto& component : all[i]->FComponents) all.push_back(component.get());
-    Detach();
+    for (std::size_t i = 0; i < all.size(); ++i) all[i]->BeforeDestruction();
     for (auto step = all.rbegin(); step != all.rend(); ++step) {
         HComponent& component = **step;
         if (component.Dead()) continue;
-        if (&component != this) component.Detach();
+        component.Detach();
         component.MarkDead();
         Kit().Forget(component);
     }

@@ -72,7 +72,9 @@ class HComponent : public With<HObject, TComponent> {
     bool GetProp(TName name, TPropValue& value) override;
 
  protected:
-    /// Takes the component out of what it is part of, before its components go.
+    /// Runs while the component and all it owns are still whole; owners first.
+    virtual void BeforeDestruction() {}
+    /// Takes the component out of what it is part of; owned components first.
     virtual void Detach() {}
 
  private:

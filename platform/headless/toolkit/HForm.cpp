@@ -53,9 +53,13 @@ HCustomForm::~HCustomForm() {
     Kit().RemoveForm(*this);
 }
 
-void HCustomForm::Detach() {
+void HCustomForm::BeforeDestruction() {
     Fire(Kit().Names().OnDestroy);
     if (FModal) FModalResult = mrCancel;
+    HWinControl::BeforeDestruction();
+}
+
+void HCustomForm::Detach() {
     Kit().RemoveForm(*this);
     if (Kit().App().MainFormObject() == this) Kit().App().SetMainForm(nullptr);
     HWinControl::Detach();

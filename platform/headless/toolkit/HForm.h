@@ -104,6 +104,7 @@ class HCustomForm : public With<HWinControl, TCustomForm> {
  protected:
     void CreateParams(HCreateParams& params) override;
     HInsets Insets() const override;
+    void BeforeDestruction() override;
     void Detach() override;
 
  private:

@@ -28,6 +28,9 @@ HToolkit::HToolkit(HDesktop& desktop, TClockService& clock)
 }
 
 HToolkit::~HToolkit() {
+    // No loop may start any more; the forms' own code still hears of their end.
+    FDesktop.Quit();
+    FApplication->Free();
     FDesktop.SetErrorReport(nullptr);
     FApplication.reset();
     FDesktop.EmptyGraveyard();

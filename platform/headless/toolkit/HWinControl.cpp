@@ -48,8 +48,10 @@ void HWinControl::SetControlIndex(HControl& control, int index) {
 
 TObject* HWinControl::Controls(int index) {
     const auto place = static_cast<std::size_t>(index);
-    if (place < FGraphic.size()) return FGraphic[place];
-    return FWindowed.at(place - FGraphic.size());
+    if (index >= 0 && place < FGraphic.size()) return FGraphic[place];
+    if (index < 0 || place - FGraphic.size() >= FWindowed.size())
+        throw EListError("List index out of bounds (" + std::to_string(index) + ")");
+    return FWindowed[place - FGraphic.size()];
 }
 
 HControl* HWinControl::GraphicAt(TPoint point) {

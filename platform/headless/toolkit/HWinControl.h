@@ -71,6 +71,8 @@ class HWinControl : public With<HControl, TWinControl>, public HWindowTarget {
     virtual void DefaultHandler(HMessage& message);
     /// A notification that the control's own window sent to its parent.
     virtual void CNCommand(unsigned) {}
+    /// The windows go as one piece, from the top.
+    void BeforeDestruction() override { DestroyHandle(); }
     void Detach() override;
     /// Tells the parent's window, as a window class does: code in the high word.
     void NotifyParent(unsigned code);

@@ -1,0 +1,20 @@
+#include "Engine/Core/RUXEngineState.h"
+
+namespace rux {
+
+void TTaskCenterHolder::Set(ITaskCenter* center) {
+    const std::lock_guard lock(FLock);
+    FCenter = center;
+}
+
+bool TTaskCenterHolder::PostTask(unsigned message, WParam wParam, LParam lParam) {
+    const std::lock_guard lock(FLock);
+    return FCenter && FCenter->PostTask(message, wParam, lParam);
+}
+
+void TTaskCenterHolder::Bury(TObjectPool pool) {
+    const std::lock_guard lock(FLock);
+    if (FCenter) FCenter->Bury(std::move(pool));
+}
+
+}  // namespace rux

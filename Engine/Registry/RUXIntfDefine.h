@@ -1,0 +1,75 @@
+// Interface definitions: what the methods behind a type word look like, for people to read. Calls do not go
+// by them.
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Engine/Core/RUXInterfaceTable.h"
+
+namespace rux {
+
+struct TRUXParamDefine {
+    std::string Name;
+    /// Name of its type.
+    std::string Kind;
+};
+
+class TRUXMethodDefine {
+ public:
+    explicit TRUXMethodDefine(std::string_view name) : Name(name) {}
+
+    std::string Name;
+    /// Name of the result's type; empty for a procedure.
+    std::string ReturnType;
+
+    void AddParam(std::string_view name, std::string_view kind);
+    std::size_t Count() const { return FParams.size(); }
+    /// In the order of the declaration.
+    const std::vector<TRUXParamDefine>& Items() const { return FParams; }
+
+ private:
+    std::vector<TRUXParamDefine> FParams;
+};
+
+class TRUXIntfDefine {
+ public:
+    explicit TRUXIntfDefine(std::string_view name) : Name(name) {}
+
+    /// With its leading I.
+    std::string Name;
+
+    /// The reference holds until the methods are sorted.
+    TRUXMethodDefine& AddMethod(std::string_view name);
+    /// By the codes of the names' characters; methods of one name keep their order.
+    void SortMethods();
+    std::size_t Count() const { return FMethods.size(); }
+    const std::deque<TRUXMethodDefine>& Items() const { return FMethods; }
+
+ private:
+    std::deque<TRUXMethodDefine> FMethods;
+};
+
+/// Filled at start, before other threads run; then only read, by any thread.
+class TRUXIntfDefineList {
+ public:
+    /// Appends a definition with the methods of the interface and its ancestors, sorted. A name may be there
+    /// already: the search finds the first.
+    void AddInterface(const TInterfaceInfo& info);
+    /// nil for a name that is not defined. Compared without case.
+    const TRUXIntfDefine* FindDefine(std::string_view name) const;
+    std::size_t Count() const { return FDefines.size(); }
+    const std::deque<TRUXIntfDefine>& Items() const { return FDefines; }
+
+ private:
+    std::deque<TRUXIntfDefine> FDefines;
+};
+
+/// Adds the compiled interfaces in the order given, repeats included. None may be nil.
+void AddCompiledInterfaces(TRUXIntfDefineList& list, std::span<const TInterfaceInfo* const> interfaces);
+
+}  // namespace rux

@@ -1,0 +1,44 @@
+// The engine as a whole: made by the host at load, started, stopped, freed.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "Engine/Core/RUXEngineState.h"
+#include "Engine/Host/RUXHttpServer.h"
+#include "Engine/Start/RUXEngineService.h"
+
+namespace rux {
+
+/// Ends the host, with a message box, when it is no application that the engine can live in.
+void CheckHost(TPlatform& platform);
+
+/// One at a time in a process. All calls on the user-interface thread.
+class TRUXApplication {
+ public:
+    /// Fills the class lists; nothing runs yet.
+    explicit TRUXApplication(TPlatform& platform);
+    /// Stops what runs.
+    ~TRUXApplication();
+
+    /// Takes the port, makes the task centre, installs the hooks, prepares the folders and starts the daemon,
+    /// in this order.
+    void Start();
+    /// In the reverse: the daemon ends, the hooks go, the task centre goes; then connections and waiting
+    /// requests are ended. Nothing happens when nothing runs.
+    void Stop();
+
+    /// 0 until started.
+    std::uint16_t ServerPort() const { return FState.ServerPort; }
+    /// nil until started.
+    TRUXHttpDaemon* Daemon() const { return FDaemon.get(); }
+    TEngineState& State() { return FState; }
+    const TRUXEngineService& Service() const { return FService; }
+
+ private:
+    TEngineState FState;
+    TRUXEngineService FService;
+    std::unique_ptr<TRUXHttpDaemon> FDaemon;
+};
+
+}  // namespace rux

@@ -1,0 +1,40 @@
+#include "Engine/Start/RUXEngineService.h"
+
+#include "Engine/Core/RUXEngineState.h"
+#include "platform/KernelService.h"
+#include "rtl/Numbers.h"
+
+namespace rux {
+
+namespace {
+
+constexpr const char* MappingFormat = "RUX.{09491275-8671-4C09-9404-76E78D4AF883}.%d";
+constexpr std::size_t ValueSize = 4;
+
+/// Little-endian, as the controller's processor writes it.
+std::uint32_t ValueAt(const std::string& bytes, std::size_t index) {
+    std::uint32_t value = 0;
+    for (std::size_t i = ValueSize; i-- > 0;)
+        value = (value << 8) | static_cast<unsigned char>(bytes[index * ValueSize + i]);
+    return value;
+}
+
+}  // namespace
+
+TRUXEngineService::TRUXEngineService() {
+    TKernelService& kernel = Platform().Kernel;
+    const std::string name = Format(MappingFormat, {kernel.GetCurrentProcessId()});
+    const std::optional<std::string> bytes = kernel.ReadFileMapping(name, 3 * ValueSize);
+    if (!bytes) return;
+    FFirst = ValueAt(*bytes, 0);
+    FSecond = ValueAt(*bytes, 1);
+    FResolveEntry = ValueAt(*bytes, 2);
+}
+
+std::uintptr_t TRUXEngineService::ResolveProc(const std::string& module, const std::string& name) const {
+    TKernelService& kernel = Platform().Kernel;
+    return FResolveEntry ? kernel.CallResolveEntry(FResolveEntry, module, name)
+                         : kernel.GetProcAddress(module, name);
+}
+
+}  // namespace rux

@@ -4,6 +4,7 @@
 // other thread runs; afterwards it is only read.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -24,8 +25,11 @@ struct TCodePageTables {
     std::vector<std::uint16_t> FromWide;
 };
 
-/// Makes the tables known and makes them the current code page. Tables live until the process ends.
+/// Makes the tables known and makes them the current code page. Tables live until the process ends. Bytes
+/// below 80 are ASCII whatever the tables say: none of them opens a character of two bytes.
 void SetAnsiCodePage(TCodePageTables tables);
+/// The tables in force, both vectors complete (65,536 entries): for folding case, which goes by UTF-16.
+const TCodePageTables& CurrentCodePage();
 /// Number of the current code page; 20127 (seven-bit text) until one was set.
 unsigned AnsiCodePage();
 /// True when `byte` opens a character of two bytes in the current code page.
@@ -52,19 +56,25 @@ class TTextCursor {
     /// With `placeholders`, the byte FE where it begins a character is a character of one byte: it stands
     /// for an escaped comma inside an argument.
     explicit TTextCursor(std::string_view text, std::size_t start = 0, bool placeholders = false)
-        : FText(text), FPos(start), FPlaceholders(placeholders) {}
+        : FText(text), FPos(std::min(start, text.size())), FPlaceholders(placeholders) {}
 
     bool AtEnd() const { return FPos >= FText.size(); }
     /// Offset of the current character, in bytes from 0.
     std::size_t Pos() const { return FPos; }
-    /// Length of the current character: 1 or 2 bytes.
-    std::size_t Length() const;
+    /// Length of the current character: 1 or 2 bytes; 0 at the end. A lead byte and any byte behind it are
+    /// one character, a lead byte at the very end is one of its own.
+    std::size_t Length() const {
+        if (AtEnd()) return 0;
+        const auto byte = static_cast<unsigned char>(FText[FPos]);
+        return byte < 0x80 ? 1 : LengthBeyondAscii(byte);
+    }
     /// True when the current character is the single byte `c`.
     bool Is(char c) const { return !AtEnd() && FText[FPos] == c && Length() == 1; }
     std::string_view Char() const { return FText.substr(FPos, Length()); }
     void Next() { FPos += Length(); }
 
  private:
+    std::size_t LengthBeyondAscii(unsigned char byte) const;
     std::string_view FText;
     std::size_t FPos;
     bool FPlaceholders;

@@ -31,6 +31,7 @@ struct TDateParts {
     /// 1 is Sunday.
     int DayOfWeek = 0;
 };
+/// To the nearest millisecond. All parts are 0 outside the years 1 to 9999.
 TDateParts DecodeDateTime(TDateTime value);
 /// Raises EConvertError "Invalid argument to date encode" / "time encode" outside the calendar.
 TDateTime EncodeDateTime(const TDateParts& parts);

@@ -2,6 +2,7 @@
 // case, presence is what counts. Reading and writing files is the caller's.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -35,10 +36,14 @@ class TMemIniFile {
         std::vector<std::string> Lines;
         /// Folded ident to its place in Lines; the first of a repeated ident.
         std::unordered_map<std::string, std::size_t> Idents;
+        void Append(std::string line);
+        const std::string* Find(std::string_view ident) const;
     };
     const TSection* Find(std::string_view section) const;
-    TSection& FindOrAdd(std::string_view section);
+    TSection& AddSection(std::string_view name);
     std::vector<TSection> FSections;
+    /// Folded name to its place in FSections; the last of a repeated section, which queries see.
+    std::unordered_map<std::string, std::size_t> FIndex;
 };
 
 }  // namespace rux

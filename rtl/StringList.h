@@ -9,7 +9,8 @@
 namespace rux {
 
 /// Splits as the run-time library's DelimitedText does with StrictDelimiter off: #1 to #32 separate as well
-/// as `delimiter`, a quote counts at an item's start only, #0 ends the text. By characters.
+/// as `delimiter`, a quote counts at an item's start only, #0 ends the text. A quote that nothing closes
+/// takes the rest of the text. By characters.
 std::vector<std::string> SplitDelimited(std::string_view text, char delimiter, char quote = '"');
 /// Joins; an item that holds #0 to #32, the quote or the delimiter is quoted, a list of one empty item is "".
 std::string JoinDelimited(const std::vector<std::string>& items, char delimiter, char quote = '"');
@@ -22,9 +23,9 @@ class TStringList {
 
     std::size_t Add(std::string item);
     void Clear() { FItems.clear(); }
+    /// Everything that takes an index raises EStringListError "List index out of bounds (<index>)".
     void Delete(std::size_t index);
     std::size_t Count() const { return FItems.size(); }
-    /// Raises EStringListError "List index out of bounds (<index>)".
     const std::string& operator[](long long index) const;
     void Set(long long index, std::string item);
     const std::vector<std::string>& Items() const { return FItems; }
@@ -46,6 +47,9 @@ class TStringList {
     void SetText(std::string_view text);
 
  private:
+    /// `index` as an offset into the items; raises when there is none.
+    std::size_t Place(long long index) const;
+    /// 1-based; 0 when the item has no separator.
     std::size_t SeparatorPos(std::string_view item) const;
     std::vector<std::string> FItems;
 };

@@ -37,8 +37,4 @@ const TRUXIntfDefine* TRUXIntfDefineList::FindDefine(std::string_view name) cons
     return found == FDefines.end() ? nullptr : &*found;
 }
 
-void AddCompiledInterfaces(TRUXIntfDefineList& list, std::span<const TInterfaceInfo* const> interfaces) {
-    for (const TInterfaceInfo* info : interfaces) list.AddInterface(*info);
-}
-
 }  // namespace rux

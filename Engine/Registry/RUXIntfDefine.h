@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <deque>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -68,8 +67,5 @@ class TRUXIntfDefineList {
  private:
     std::deque<TRUXIntfDefine> FDefines;
 };
-
-/// Adds the compiled interfaces in the order given, repeats included. None may be nil.
-void AddCompiledInterfaces(TRUXIntfDefineList& list, std::span<const TInterfaceInfo* const> interfaces);
 
 }  // namespace rux

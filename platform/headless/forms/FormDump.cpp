@@ -44,7 +44,7 @@ void TFormDump::AddEscaped(std::string_view text) {
         if (c >= ' ' && c <= '~' && c != '\'' && c != '\\') {
             FText += c;
         } else {
-            FText += "\\x" + HexText({&c, 1});
+            FText += "\\x" + FormHexText({&c, 1});
         }
     }
 }
@@ -86,7 +86,7 @@ void TFormDump::AddValue(const TFormValue& value) {
         },
         [this](std::int64_t number) { FText += std::to_string(number); },
         [this](const TFormFloat& number) {
-            FText += FloatText(number.Value);
+            FText += FormDoubleText(number.Value);
             if (number.Suffix) FText += number.Suffix;
         },
         [this](const TFormIdent& ident) { AddEscaped(ident.Name.empty() ? "-" : ident.Name); },
@@ -119,7 +119,7 @@ void TFormDump::AddBinary(const TFormBinary& binary) {
     const std::string& bytes = binary.Bytes;
     FText += '{';
     FText += bytes.size() <= FormDumpBinaryLimit
-                 ? HexText(bytes)
+                 ? FormHexText(bytes)
                  : std::to_string(bytes.size()) + " bytes, " + std::to_string(Hash(bytes));
     FText += '}';
 }

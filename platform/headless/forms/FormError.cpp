@@ -21,7 +21,7 @@ std::string QuoteFormText(std::string_view text) {
             result += c;
             continue;
         }
-        result += "\\x" + HexText({&c, 1});
+        result += "\\x" + FormHexText({&c, 1});
     }
     result += text.size() > FormQuoteLimit ? "\"..." : "\"";
     return result;

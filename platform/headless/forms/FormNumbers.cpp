@@ -85,7 +85,7 @@ std::string ReadFormBinary(std::string_view text) {
     return bytes;
 }
 
-std::string FloatText(double value) {
+std::string FormDoubleText(double value) {
     char buffer[64];
     auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value);
     std::string result(buffer, end);
@@ -94,12 +94,12 @@ std::string FloatText(double value) {
 }
 
 std::string FormFloatText(const TFormFloat& value) {
-    std::string result = FloatText(value.Suffix == 'c' ? CurrencyNumber(value.Value) : value.Value);
+    std::string result = FormDoubleText(value.Suffix == 'c' ? CurrencyNumber(value.Value) : value.Value);
     if (value.Suffix) result += value.Suffix;
     return result;
 }
 
-std::string HexText(std::string_view bytes) {
+std::string FormHexText(std::string_view bytes) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string result;
     result.reserve(2 * bytes.size());

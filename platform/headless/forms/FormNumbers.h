@@ -20,10 +20,10 @@ std::optional<TFormFloat> ReadFormFloat(std::string_view text);
 std::string ReadFormBinary(std::string_view text);
 
 /// The shortest text that reads as the same double; it always has a point or an exponent.
-std::string FloatText(double value);
+std::string FormDoubleText(double value);
 /// The same with the suffix, as it stands in a form file: ReadFormFloat gives `value` again.
 std::string FormFloatText(const TFormFloat& value);
 /// Two upper-case hexadecimal digits for each byte.
-std::string HexText(std::string_view bytes);
+std::string FormHexText(std::string_view bytes);
 
 }  // namespace rux

@@ -213,7 +213,7 @@ void TFormWriter::AddBinary(const TFormBinary& binary) {
     std::string_view rest = binary.Bytes;
     for (; !rest.empty(); rest.remove_prefix(std::min(FormBinaryWidth, rest.size()))) {
         NewLine();
-        FText += HexText(rest.substr(0, FormBinaryWidth));
+        FText += FormHexText(rest.substr(0, FormBinaryWidth));
     }
     --FLevel;
     FText += '}';

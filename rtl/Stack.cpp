@@ -1,0 +1,45 @@
+#include "rtl/Stack.h"
+
+#include "rtl/Exceptions.h"
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define RUX_WIDE_FRAMES 1
+#endif
+#endif
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define RUX_WIDE_FRAMES 1
+#endif
+
+namespace rux {
+namespace {
+
+constexpr std::size_t KiB = 1024;
+#ifdef RUX_WIDE_FRAMES
+// Sanitizers widen every frame, and their own run time uses the same stack.
+constexpr std::size_t Reserve = 256 * KiB;
+constexpr std::size_t AssumedRoom = 1024 * KiB;
+#else
+constexpr std::size_t Reserve = 96 * KiB;
+constexpr std::size_t AssumedRoom = 256 * KiB;
+#endif
+
+thread_local constinit std::uintptr_t Lowest = 0;
+
+}  // namespace
+
+void SetStackLimit(std::uintptr_t lowest) {
+    Lowest = lowest;
+}
+
+std::size_t StackRoom() {
+    const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+    if (!Lowest) Lowest = here > AssumedRoom ? here - AssumedRoom : 1;
+    return here > Lowest ? here - Lowest : 0;
+}
+
+void CheckStack() {
+    if (StackRoom() < Reserve) throw EStackOverflow("Stack overflow");
+}
+
+}  // namespace rux

@@ -1,0 +1,391 @@
+// The contract on Linux, and what is Linux's own.
+#include <arpa/inet.h>
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <climits>
+#include <filesystem>
+#include <fstream>
+
+#include "BoundaryContract.h"
+#include "platform/posix/CodePages.h"
+#include "platform/posix/ManualClock.h"
+#include "platform/posix/PosixEvent.h"
+#include "platform/posix/PosixPlatform.h"
+#include "platform/posix/SystemNames.h"
+#include "platform/posix/TreeDeletion.h"
+#include "rtl/Exceptions.h"
+
+namespace rux::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A folder for one test, open to every user.
+class TTemporaryFolder {
+ public:
+    TTemporaryFolder() {
+        std::string pattern = (fs::temp_directory_path() / "rux-test-XXXXXX").string();
+        Path = ::mkdtemp(pattern.data());
+        fs::permissions(Path, fs::perms::all);
+    }
+    ~TTemporaryFolder() { DeleteSystemTree(Path); }
+    std::string Path;
+};
+
+class TSocketPeer final : public TPeer {
+ public:
+    explicit TSocketPeer(TFileDescriptor socket) : FSocket(std::move(socket)) {}
+    void Send(std::string_view bytes) override {
+        while (!bytes.empty()) {
+            const ssize_t sent = ::send(FSocket.Get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
+            if (sent < 0) return;
+            bytes.remove_prefix(static_cast<std::size_t>(sent));
+        }
+    }
+    std::string Receive(std::size_t length) override {
+        std::string bytes(length, '\0');
+        const ssize_t got = ::recv(FSocket.Get(), bytes.data(), length, MSG_WAITALL);
+        bytes.resize(static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
+        return bytes;
+    }
+
+ private:
+    TFileDescriptor FSocket;
+};
+
+std::unique_ptr<TPeer> ConnectTo(const char* address, std::uint16_t port) {
+    TFileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    sockaddr_in name{};
+    name.sin_family = AF_INET;
+    name.sin_port = htons(port);
+    ::inet_pton(AF_INET, address, &name.sin_addr);
+    if (::connect(socket.Get(), reinterpret_cast<sockaddr*>(&name), sizeof name) != 0) return nullptr;
+    return std::make_unique<TSocketPeer>(std::move(socket));
+}
+
+class TPosixUnderTest final : public TPlatformUnderTest {
+ public:
+    TPosixUnderTest() : TPosixUnderTest(std::make_unique<TManualClock>()) {}
+    TKernelService& Kernel() override { return FPlatform.Kernel; }
+    TSocketService& Sockets() override { return FPlatform.Sockets; }
+    TFileService& Files() override { return FPlatform.Files; }
+    std::uint64_t Tick() override { return FClock.TickCount(); }
+    void Advance(std::uint64_t milliseconds) override { FClock.Advance(milliseconds); }
+    void WaitUntilWaiters(std::size_t count, std::uint64_t notBefore) override {
+        FClock.WaitUntilWaiters(count, notBefore);
+    }
+    void WaitForAllThreads() override { FPlatform.Kernel.WaitForAllThreads(); }
+    std::string Folder() const override { return NameFromSystem(FFolder.Path); }
+    void PublishMapping(const std::string& name, std::string_view bytes) override {
+        FPlatform.Kernel.NamedObjects().PublishMapping(name, bytes);
+    }
+    std::unique_ptr<TPeer> Connect(std::uint16_t port) override { return ConnectTo("127.0.0.1", port); }
+
+ private:
+    explicit TPosixUnderTest(std::unique_ptr<TManualClock> clock)
+        : FClock(*clock),
+          FPlatform({.ObjectFolder = FObjects.Path}, {.AnyAddress = "127.0.0.1"}, std::move(clock)) {}
+    TTemporaryFolder FFolder, FObjects;
+    TManualClock& FClock;
+    TPosixPlatform FPlatform;
+};
+
+std::unique_ptr<TPlatformUnderTest> MakePosix() {
+    SetAnsiCodePage(LoadCodePage(936));
+    return std::make_unique<TPosixUnderTest>();
+}
+
+/// Another process; it runs `body`, whose answer is its exit code.
+class TProcess {
+ public:
+    explicit TProcess(const std::function<int()>& body) : FId(::fork()) {
+        if (FId == 0) ::_exit(body());
+    }
+    int ExitCode() {
+        int status = 0;
+        ::waitpid(FId, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+    }
+    void Kill() { ::kill(FId, SIGKILL), ExitCode(); }
+
+ private:
+    pid_t FId;
+};
+
+/// A process that makes a mutex, tells by '+' or '-' whether it was the first, and stays.
+class TMutexHolder {
+ public:
+    TMutexHolder(const std::string& folder, const std::string& name)
+        : FProcess([&] {
+              TNamedObjects objects(folder);
+              const char answer = objects.CreateMutex(name) ? '+' : '-';
+              if (::write(FPipe.Ends[1], &answer, 1) == 1) ::pause();
+              return 0;
+          }) {
+        if (::read(FPipe.Ends[0], &Answer, 1) != 1) Answer = '?';
+    }
+    ~TMutexHolder() {
+        ::close(FPipe.Ends[0]);
+        ::close(FPipe.Ends[1]);
+    }
+    void Kill() { FProcess.Kill(); }
+    char Answer = '?';
+
+ private:
+    struct TPipe {
+        TPipe() {
+            if (::pipe(Ends) != 0) throw Exception("no pipe");
+        }
+        int Ends[2];
+    } FPipe;
+    TProcess FProcess;
+};
+
+}  // namespace
+
+INSTANTIATE_TEST_SUITE_P(Posix, BoundaryContract, testing::Values(&MakePosix));
+
+TEST(PosixMutexes, ExistAsLongAsTheLastProcessThatHoldsThem) {
+    const TTemporaryFolder folder;
+    TNamedObjects objects(folder.Path + "/objects");
+    TMutexHolder first(folder.Path + "/objects", "Global\\{A}.1");
+    TMutexHolder second(folder.Path + "/objects", "Global\\{A}.1");
+    EXPECT_EQ(std::string({first.Answer, second.Answer}), "+-");
+    EXPECT_EQ(fs::status(folder.Path + "/objects").permissions(), fs::perms::all | fs::perms::sticky_bit);
+    EXPECT_TRUE(objects.OpenMutex("Global\\{A}.1"));
+    first.Kill();
+    EXPECT_TRUE(objects.OpenMutex("Global\\{A}.1"));
+    second.Kill();
+    EXPECT_FALSE(objects.OpenMutex("Global\\{A}.1"));
+    EXPECT_TRUE(objects.CreateMutex("Global\\{A}.1"));
+}
+
+TEST(PosixMutexes, OneOfManyMakesIt) {
+    const TTemporaryFolder folder;
+    TManualClock clock;
+    std::vector<std::unique_ptr<TNamedObjects>> objects;
+    for (int i = 0; i < 8; ++i) objects.push_back(std::make_unique<TNamedObjects>(folder.Path));
+    TPosixThreads threads(clock, WorkerStackSize);
+    for (int round = 0; round < 50; ++round) {
+        std::atomic<int> made{0};
+        for (const auto& each : objects)
+            threads.Start([&] { made += each->CreateMutex(std::to_string(round)); });
+        threads.WaitForAll();
+        EXPECT_EQ(made, 1) << round;
+    }
+}
+
+TEST(PosixKernel, TellsWhatTheHostToldIt) {
+    TManualClock clock;
+    std::string debug;
+    TPosixKernel kernel(clock, {.ModuleName = "\\app\\host",
+                                .Modules = {"vcl100.bpl", "Own.dll"},
+                                .DebugSink = [&](const std::string& text) { debug += text + ";"; }});
+    EXPECT_EQ(kernel.GetModuleName(), "\\app\\host");
+    EXPECT_TRUE(kernel.HasModule("VCL100.BPL") && kernel.HasModule("own.dll") && !kernel.HasModule("own"));
+    kernel.OutputDebugStringA("a");
+    kernel.OutputDebugStringA("");
+    EXPECT_EQ(debug, "a;;");
+    EXPECT_EQ(kernel.GetCurrentProcessId(), static_cast<std::uint32_t>(::getpid()));
+    TProcess process([&] {
+        kernel.ExitProcess(7);
+        return 0;
+    });
+    EXPECT_EQ(process.ExitCode(), 7);
+    TPosixKernel huge(clock, {.ThreadStackSize = std::size_t{1} << 60});
+    EXPECT_THROW(huge.StartThread([] {}), EOSError);
+}
+
+TEST(PosixKernel, CountsPrivateMemory) {
+    TManualClock clock;
+    TPosixKernel kernel(clock, {});
+    constexpr std::size_t size = std::size_t{64} << 20;
+    const auto before = kernel.GetPagefileUsage();
+    void* const memory = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    const auto after = kernel.GetPagefileUsage();
+    ::munmap(memory, size);
+    ASSERT_TRUE(before && after);
+    EXPECT_GE(*after, *before + size);
+    EXPECT_LT(*after, *before + 2 * size);
+}
+
+TEST(PosixClocks, AManualClockMovesWhenTold) {
+    TManualClock clock(40000.5, 60);
+    clock.Advance(43200000);
+    EXPECT_EQ(clock.Now(), 40001);
+    EXPECT_EQ(clock.BiasMinutes(), 60);
+    TPosixEvent event(clock);
+    TPosixThreads threads(clock, WorkerStackSize);
+    const auto waiter = threads.Start([&] { event.WaitFor(86400000); });
+    clock.WaitUntilWaiters(1);
+    clock.Set(39999);
+    EXPECT_EQ(clock.Now(), 39999);
+    EXPECT_EQ(clock.TickCount(), 43200000u);
+    clock.WaitUntilWaiters(1);
+    clock.Set(40000);
+    EXPECT_EQ(waiter->WaitFor(WaitForever), TWaitResult::Signalled);
+    EXPECT_EQ(clock.TickCount(), 43200000u + 86400000u);
+}
+
+TEST(PosixClocks, TheSystemClockGivesLocalTime) {
+    TProcess process([] {
+        ::setenv("TZ", "XXX-5:45", 1);
+        TSystemClock clock;
+        for (int i = 0; i < 2; ++i) {
+            const auto before = static_cast<double>(::time(nullptr));
+            const double now = (clock.Now() - 25569) * 86400 - 345 * 60;
+            if (clock.BiasMinutes() != 345 || now < before - 1 ||
+                now > static_cast<double>(::time(nullptr)) + 1)
+                return 1;
+        }
+        TPosixEvent event(clock);
+        return event.WaitFor(0) == TWaitResult::TimedOut ? 0 : 2;
+    });
+    EXPECT_EQ(process.ExitCode(), 0);
+}
+
+TEST(PosixSockets, ListenWhereTheHostAllows) {
+    TManualClock clock;
+    TPosixSockets sockets(clock, {.AnyAddress = "127.0.0.1"});
+    const auto socket = sockets.CreateTCPBlockSocket();
+    std::uint16_t port = static_cast<std::uint16_t>(32000 + ::getpid() % 10000);
+    do {
+        socket->CreateSocket();
+        socket->Bind("0.0.0.0", std::to_string(++port));
+        if (socket->LastError() == 0) socket->Listen();
+    } while (socket->LastError() == 10048);
+    ASSERT_EQ(socket->LastError(), 0);
+    EXPECT_NE(ConnectTo("127.0.0.1", port), nullptr);
+    EXPECT_EQ(ConnectTo("127.0.0.2", port), nullptr);
+}
+
+TEST(PosixFiles, NamesOnDiskAreUtf8) {
+    SetAnsiCodePage(LoadCodePage(936));
+    const TTemporaryFolder folder;
+    TPosixFiles files;
+    EXPECT_TRUE(files.WriteFile(NameFromSystem(folder.Path) + "\\" + Ansi("誠"), "x"));
+    EXPECT_TRUE(fs::exists(folder.Path + "/誠"));
+    EXPECT_EQ(SystemName("\\\\a\\" + Ansi("錦") + "\\\\b/c\\"), "/a/錦/b/c/");
+    EXPECT_EQ(NameFromSystem("/a/錦"), "\\a\\" + Ansi("錦"));
+    ::mkfifo((folder.Path + "/pipe").c_str(), 0666);
+    EXPECT_EQ(files.ReadFile(NameFromSystem(folder.Path) + "\\pipe"), std::nullopt);
+    EXPECT_EQ(files.OpenAppend(NameFromSystem(folder.Path) + "\\pipe"), nullptr);
+}
+
+TEST(PosixFiles, ATreeGoesWithoutWhatItsLinksLeadTo) {
+    const TTemporaryFolder folder;
+    const fs::path tree = folder.Path + "/tree", outside = folder.Path + "/outside";
+    fs::create_directories(tree / "a/b");
+    fs::create_directories(outside);
+    std::ofstream(outside / "kept") << "x";
+    fs::create_directory_symlink(outside, tree / "a/link");
+    fs::create_symlink("nowhere", tree / "a/b/dangling");
+    fs::create_directory_symlink(outside, folder.Path + "/top");
+    EXPECT_TRUE(DeleteSystemTree(tree));
+    EXPECT_TRUE(DeleteSystemTree(folder.Path + "/top/"));
+    EXPECT_FALSE(DeleteSystemTree(outside / "kept"));
+    EXPECT_FALSE(fs::exists(tree));
+    EXPECT_TRUE(fs::exists(outside / "kept"));
+}
+
+TEST(PosixFiles, ATreeMayBeDeeperThanAnyPath) {
+    const TTemporaryFolder folder;
+    ::mkdir((folder.Path + "/deep").c_str(), 0777);
+    TFileDescriptor at(::open((folder.Path + "/deep").c_str(), O_RDONLY | O_DIRECTORY));
+    for (int i = 0; i < PATH_MAX / 7; ++i) {
+        ASSERT_EQ(::mkdirat(at.Get(), "folder", 0777), 0);
+        at = TFileDescriptor(::openat(at.Get(), "folder", O_RDONLY | O_DIRECTORY));
+    }
+    ::close(::openat(at.Get(), "file", O_WRONLY | O_CREAT, 0666));
+    TProcess process([&] {
+        const rlimit few{64, 64};
+        return ::setrlimit(RLIMIT_NOFILE, &few) == 0 && DeleteSystemTree(folder.Path + "/deep") ? 0 : 1;
+    });
+    EXPECT_EQ(process.ExitCode(), 0);
+    EXPECT_FALSE(fs::exists(folder.Path + "/deep"));
+}
+
+TEST(PosixFiles, ReadOnlyEntriesGoAndFailuresStay) {
+    if (::geteuid() != 0) GTEST_SKIP() << "needs to make files of two users";
+    const TTemporaryFolder folder;
+    const fs::path tree = folder.Path + "/tree";
+    TProcess process([&] {
+        if (::setuid(65534) != 0) return 9;
+        fs::create_directories(tree / "shut/inner");
+        std::ofstream(tree / "shut/inner/file") << "x";
+        fs::permissions(tree / "shut/inner/file", fs::perms::owner_read);
+        fs::permissions(tree / "shut/inner", fs::perms::owner_read);
+        fs::permissions(tree / "shut", fs::perms::none);
+        return 0;
+    });
+    ASSERT_EQ(process.ExitCode(), 0);
+    fs::create_directories(tree / "foreign");
+    std::ofstream(tree / "foreign/file") << "x";
+    TProcess second([&] { return ::setuid(65534) == 0 && !DeleteSystemTree(tree) ? 0 : 1; });
+    EXPECT_EQ(second.ExitCode(), 0);
+    EXPECT_FALSE(fs::exists(tree / "shut"));
+    EXPECT_TRUE(fs::exists(tree / "foreign/file"));
+}
+
+TEST(PosixCodePages, Page936IsOneToOne) {
+    const TCodePageTables page = LoadCodePage(936);
+    int characters = 0, userDefined = 0;
+    for (unsigned place = 1; place < 0x10000; ++place) {
+        const char16_t unit = page.ToWide[place];
+        if (!unit) continue;
+        ++characters;
+        userDefined += unit >= 0xE000 && unit < 0xF900;
+        EXPECT_EQ(page.FromWide[unit], place);
+        EXPECT_EQ(place > 0xFF, page.Lead[place > 0xFF ? place >> 8 : place]);
+    }
+    for (unsigned unit = 1; unit < 0x10000; ++unit)
+        EXPECT_TRUE(page.FromWide[unit] == 0 || page.ToWide[page.FromWide[unit]] == unit) << unit;
+    EXPECT_GT(characters, 23000);
+    EXPECT_EQ(userDefined, 6 * 94 + 7 * 94 + 7 * 96);
+    constexpr std::pair<unsigned, char16_t> places[] = {
+        {0xD6D0, u'中'},  {0xD55C, u'誠'},  {0x80, 0x20AC},   {0xAAA1, 0xE000}, {0xAFFE, 0xE233},
+        {0xF8A1, 0xE234}, {0xFEFE, 0xE4C5}, {0xA140, 0xE4C6}, {0xA180, 0xE505}, {0xA7A0, 0xE765}};
+    for (const auto& [place, unit] : places) EXPECT_EQ(page.ToWide[place], unit) << std::hex << place;
+}
+
+TEST(PosixCodePages, OthersAreKnownByTheirNumbers) {
+    const struct {
+        unsigned Number, Place;
+        char16_t Unit;
+        const char* Leads;
+    } rows[] = {{1252, 0x80, 0x20AC, ""},
+                {1251, 0xC0, u'А', ""},
+                {932, 0x889F, u'亜', "81-9F E0-FC "},
+                {932, 0xB1, u'ｱ', "81-9F E0-FC "},
+                {949, 0xB0A1, u'가', "81-FE "},
+                {950, 0xA4A4, u'中', "81-FE "}};
+    for (const auto& row : rows) {
+        const TCodePageTables page = LoadCodePage(row.Number);
+        EXPECT_EQ(page.ToWide[row.Place], row.Unit) << row.Number;
+        EXPECT_EQ(page.FromWide[row.Unit], row.Place) << row.Number;
+        std::string leads;
+        for (unsigned b = 0; b < 256; ++b) {
+            char text[8];
+            std::snprintf(text, sizeof text, "%02X", b);
+            if (page.Lead[b] && !page.Lead[b - 1]) leads += text;
+            if (page.Lead[b] && (b == 255 || !page.Lead[b + 1])) leads += std::string("-") + text + " ";
+        }
+        EXPECT_EQ(leads, row.Leads) << row.Number;
+    }
+    try {
+        LoadCodePage(4711);
+        ADD_FAILURE() << "nothing was raised";
+    } catch (const Exception& error) {
+        EXPECT_EQ(error.Message(), "Unknown code page 4711");
+    }
+}
+
+}  // namespace rux::test

@@ -29,7 +29,7 @@ class TFileService {
     virtual bool ForceDirectories(const std::string& name) = 0;
     virtual bool DeleteFile(const std::string& name) = 0;
     /// Removes the folder with all it holds, read-only files too; links are removed, not followed. Goes on
-    /// past failures and answers whether all went.
+    /// past failures and answers whether all went; a folder that is not there is gone. Never the root.
     virtual bool DeleteTree(const std::string& name) = 0;
     /// The whole content; nothing when it cannot be read.
     virtual std::optional<std::string> ReadFile(const std::string& name) = 0;

@@ -18,6 +18,7 @@ inline constexpr std::uint32_t WaitForever = 0xFFFFFFFF;
 class TEvent {
  public:
     virtual ~TEvent() = default;
+    /// Whoever it wakes may free the event while this call is still returning.
     virtual void SetEvent() = 0;
     /// Milliseconds of the platform's clock.
     virtual TWaitResult WaitFor(std::uint32_t milliseconds) = 0;

@@ -34,6 +34,7 @@ class TTCPBlockSocket {
     virtual void Listen() = 0;
     /// True when a connection waits to be accepted, or data to be read, within the time.
     virtual bool CanRead(int milliseconds) = 0;
+    /// Does not wait: with no connection there, LastError says so.
     virtual TSocketHandle Accept() = 0;
     /// Takes over an accepted connection.
     virtual void SetSocket(TSocketHandle handle) = 0;
@@ -43,7 +44,7 @@ class TTCPBlockSocket {
     virtual std::string RecvString(int milliseconds, std::size_t limit) = 0;
     /// Up to `length` bytes into `buffer`; answers how many came before an error or the time-out.
     virtual std::size_t RecvBufferEx(char* buffer, std::size_t length, int milliseconds) = 0;
-    /// Writes all of it.
+    /// Writes all of it, or sets LastError: also when the peer takes nothing for a long time.
     virtual void SendBuffer(std::string_view data) = 0;
     virtual void CloseSocket() = 0;
 

@@ -23,12 +23,12 @@ constexpr const TInterfaceInfo* CompiledInterfaces[] = {
 }  // namespace
 
 void RegisterEverything(TEngineState& state) {
-    state.Registry = std::make_unique<TTypeRegistry>();
-    state.IntfDefines = std::make_unique<TRUXIntfDefineList>();
     for (const TInterfaceInfo* info : CompiledInterfaces) state.IntfDefines->AddInterface(*info);
     RegisterParserFinders(*state.Registry);
     RegisterTestAdapters(*state.Registry);
     RegisterFinders(*state.Registry);
+    // Reads the file beside the library, or makes it.
+    IniClassGroup();
 }
 
 }  // namespace rux

@@ -4,6 +4,8 @@
 #include <sched.h>
 #include <sys/stat.h>
 
+#include <cstdio>
+
 #include "platform/posix/FileContents.h"
 #include "platform/posix/PosixLimits.h"
 #include "platform/posix/SystemErrors.h"
@@ -12,7 +14,7 @@ namespace rux {
 namespace {
 
 // Not the environment's temporary folder: processes of different users must meet in one.
-constexpr const char* SharedFolder = "/tmp/rux-objects";
+constexpr const char* SharedFolder = P_tmpdir "/rux-objects";
 constexpr mode_t FolderMode = 01777;
 constexpr mode_t ObjectMode = 0666;
 constexpr std::string_view MutexKind = "mutex.";

@@ -11,7 +11,6 @@ namespace rux {
 class TPosixEvent : public TEvent {
  public:
     explicit TPosixEvent(TWaitClock& clock) : FClock(clock) {}
-    /// The event may be freed by whoever it wakes, while this call is still returning.
     void SetEvent() override;
     TWaitResult WaitFor(std::uint32_t milliseconds) override;
 

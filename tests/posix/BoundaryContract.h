@@ -17,22 +17,12 @@ namespace rux::test {
 
 inline constexpr std::uint32_t Hour = 3600000;
 
-/// The other end of a connection.
-class TPeer {
- public:
-    virtual ~TPeer() = default;
-    virtual void Send(std::string_view bytes) = 0;
-    /// Up to `length` bytes; fewer when the connection ends.
-    virtual std::string Receive(std::size_t length) = 0;
-};
-
 /// Services over a clock that the test moves. Code page 936 is set.
 class TPlatformUnderTest {
  public:
+    TPlatformUnderTest(TKernelService& kernel, TSocketService& sockets, TFileService& files)
+        : Kernel(kernel), Sockets(sockets), Files(files) {}
     virtual ~TPlatformUnderTest() = default;
-    virtual TKernelService& Kernel() = 0;
-    virtual TSocketService& Sockets() = 0;
-    virtual TFileService& Files() = 0;
     virtual std::uint64_t Tick() = 0;
     virtual void Advance(std::uint64_t milliseconds) = 0;
     virtual void WaitUntilWaiters(std::size_t count, std::uint64_t notBefore) = 0;
@@ -40,8 +30,12 @@ class TPlatformUnderTest {
     /// An empty folder of this object's own.
     virtual std::string Folder() const = 0;
     virtual void PublishMapping(const std::string& name, std::string_view bytes) = 0;
-    /// nil when nobody listens.
-    virtual std::unique_ptr<TPeer> Connect(std::uint16_t port) = 0;
+    /// The other end of a new connection; INVALID_SOCKET when nobody listens.
+    virtual TSocketHandle Connect(std::uint16_t port) = 0;
+
+    TKernelService& Kernel;
+    TSocketService& Sockets;
+    TFileService& Files;
 };
 
 using TPlatformFactory = std::unique_ptr<TPlatformUnderTest> (*)();
@@ -71,15 +65,14 @@ class BoundaryContract : public testing::TestWithParam<TPlatformFactory> {
     /// A socket that listens on a free port, which `port` gets.
     std::unique_ptr<TTCPBlockSocket> Listener(std::uint16_t& port);
     struct TConnection {
-        std::unique_ptr<TTCPBlockSocket> Socket;
-        std::unique_ptr<TPeer> Peer;
+        std::unique_ptr<TTCPBlockSocket> Socket, Peer;
     };
     TConnection Connection();
 
     std::unique_ptr<TPlatformUnderTest> Platform = GetParam()();
-    TKernelService& Kernel = Platform->Kernel();
-    TSocketService& Sockets = Platform->Sockets();
-    TFileService& Files = Platform->Files();
+    TKernelService& Kernel = Platform->Kernel;
+    TSocketService& Sockets = Platform->Sockets;
+    TFileService& Files = Platform->Files;
 };
 
 }  // namespace rux::test

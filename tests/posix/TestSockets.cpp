@@ -38,7 +38,8 @@ std::unique_ptr<TTCPBlockSocket> BoundaryContract::Listener(std::uint16_t& port)
 BoundaryContract::TConnection BoundaryContract::Connection() {
     std::uint16_t port = 0;
     const auto listener = Listener(port);
-    TConnection result{Sockets.CreateTCPBlockSocket(), Platform->Connect(port)};
+    TConnection result{Sockets.CreateTCPBlockSocket(), Sockets.CreateTCPBlockSocket()};
+    result.Peer->SetSocket(Platform->Connect(port));
     EXPECT_TRUE(listener->CanRead(Wait));
     result.Socket->SetSocket(listener->Accept());
     EXPECT_EQ(result.Socket->LastError(), 0);
@@ -66,7 +67,7 @@ TEST_P(BoundaryContract, LinesComeWholeHoweverTheyArePacked) {
             // The reader waits anew, for what comes after the packet before.
             Platform->WaitUntilWaiters(1, Platform->Tick() + Wait);
             Platform->Advance(1);
-            c.Peer->Send(packet);
+            c.Peer->SendBuffer(packet);
         }
         EXPECT_EQ(lines.Result(), row.Lines);
     }
@@ -77,14 +78,14 @@ TEST_P(BoundaryContract, ALineMayPauseBetweenPacketsButNotTooLong) {
     TBackground<std::string> line(Kernel, [&] { return Line(*c.Socket); });
     Platform->WaitUntilWaiters(1, Platform->Tick() + Wait);
     Platform->Advance(Wait - 1);
-    c.Peer->Send("ab");
+    c.Peer->SendBuffer("ab");
     Platform->WaitUntilWaiters(1, Platform->Tick() + Wait);
     Platform->Advance(Wait - 1);
     Platform->WaitUntilWaiters(1, Platform->Tick() + 1);
     Platform->Advance(1);
     EXPECT_EQ(line.Result(), "|10060");
     EXPECT_EQ(c.Socket->LastErrorDesc(), "Connection timed out");
-    c.Peer->Send("c\r\n");
+    c.Peer->SendBuffer("c\r\n");
     EXPECT_EQ(Line(*c.Socket), "abc|0");
 }
 
@@ -98,11 +99,11 @@ TEST_P(BoundaryContract, ALineHasALimit) {
                 {"12345\r\r\n", "|10040"}};
     for (const auto& row : rows) {
         TConnection c = Connection();
-        c.Peer->Send(row.Sent);
+        c.Peer->SendBuffer(row.Sent);
         EXPECT_EQ(Line(*c.Socket, 5), row.Line) << row.Sent;
     }
     TConnection endless = Connection();
-    TBackground<int> flood(Kernel, [&] { return endless.Peer->Send(std::string(1 << 20, 'x')), 0; });
+    TBackground<int> flood(Kernel, [&] { return endless.Peer->SendBuffer(std::string(1 << 20, 'x')), 0; });
     EXPECT_EQ(Line(*endless.Socket, 100000), "|10040");
     EXPECT_EQ(Line(*endless.Socket, 100000), "|10040");
     endless.Socket.reset();
@@ -110,7 +111,7 @@ TEST_P(BoundaryContract, ALineHasALimit) {
 
 TEST_P(BoundaryContract, ABlockBeginsWithWhatCameBehindTheLine) {
     TConnection c = Connection();
-    c.Peer->Send("line\r\n12345");
+    c.Peer->SendBuffer("line\r\n12345");
     EXPECT_EQ(Line(*c.Socket), "line|0");
     EXPECT_TRUE(c.Socket->CanRead(0));
     EXPECT_EQ(Block(*c.Socket, 3), "123|0");
@@ -124,14 +125,14 @@ TEST_P(BoundaryContract, ABlockBeginsWithWhatCameBehindTheLine) {
     TBackground<std::string> block(Kernel, [&] { return Block(*c.Socket, 10); });
     Platform->WaitUntilWaiters(1, Wait);
     Platform->Advance(Wait - 1);
-    c.Peer->Send("abc");
+    c.Peer->SendBuffer("abc");
     Platform->Advance(1);
     EXPECT_EQ(block.Result(), "abc|10060");
 }
 
 TEST_P(BoundaryContract, APeerThatGoesIsAnError) {
     TConnection c = Connection();
-    c.Peer->Send("half");
+    c.Peer->SendBuffer("half");
     c.Peer.reset();
     EXPECT_EQ(Line(*c.Socket), "|10054");
     EXPECT_EQ(Block(*c.Socket, 10), "half|10054");
@@ -150,7 +151,7 @@ TEST_P(BoundaryContract, SendingWaitsForThePeerAndGivesUpOnOneThatSleeps) {
     const auto send = [&] { return c.Socket->SendBuffer(bytes), c.Socket->LastError(); };
     {
         TBackground<int> sender(Kernel, send);
-        EXPECT_TRUE(c.Peer->Receive(bytes.size()) == bytes);
+        EXPECT_TRUE(Block(*c.Peer, bytes.size()) == bytes + "|0");
         EXPECT_EQ(sender.Result(), 0);
     }
     TBackground<int> sender(Kernel, send);
@@ -177,8 +178,8 @@ TEST_P(BoundaryContract, AnInterruptEndsEveryWaitForGood) {
         EXPECT_FALSE(row.Socket.CanRead(Hour));
         EXPECT_EQ(row.Socket.LastError(), WSAECONNRESET);
     }
-    EXPECT_EQ(line.Peer->Receive(1), "");
-    EXPECT_EQ(Platform->Connect(port), nullptr);
+    EXPECT_EQ(Block(*line.Peer, 1), "|10054");
+    EXPECT_EQ(Platform->Connect(port), INVALID_SOCKET);
 
     const auto early = Sockets.CreateTCPBlockSocket();
     early->CreateSocket();

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -12,77 +13,60 @@
 
 #include "Engine/Core/RUXEngineState.h"
 #include "Engine/Core/RUXServerUtils.h"
-#include "platform/FileService.h"
 #include "platform/headless/HeadlessPlatform.h"
 #include "platform/posix/CodePages.h"
 #include "platform/posix/PosixPlatform.h"
 
 namespace rux::test {
 
-class TMemoryFiles final : public TFileService {
+/// Touches no disk.
+class TMemoryFiles final : public TPosixFiles {
  public:
-    /// Every write fails.
-    bool ReadOnly = false;
-    /// Every read of a file that is there fails.
-    bool Locked = false;
+    struct TFile {
+        std::string Bytes;
+        std::int64_t Stamp = 0;
+    };
+    /// Every write fails; every read of a file that is there fails.
+    bool ReadOnly = false, Locked = false;
+    std::atomic<int> Writes{0};
 
     void Put(const std::string& name, std::string_view bytes, std::int64_t stamp) {
         const std::lock_guard lock(FLock);
         FFiles[name] = {std::string(bytes), stamp};
     }
-    std::string Content(const std::string& name) {
+    TFile Get(const std::string& name) {
         const std::lock_guard lock(FLock);
-        return FFiles[name].Bytes;
+        return FFiles[name];
     }
-    int Writes() const { return FWrites; }
+    std::string Content(const std::string& name) { return Get(name).Bytes; }
 
-    bool FileExists(const std::string& name) override { return LastWriteTime(name) != 0; }
-    bool DirectoryExists(const std::string&) override { return true; }
     bool ForceDirectories(const std::string&) override { return true; }
     bool DeleteFile(const std::string&) override { return true; }
-    bool DeleteTree(const std::string&) override { return true; }
     std::optional<std::string> ReadFile(const std::string& name) override {
-        const std::lock_guard lock(FLock);
-        const auto found = FFiles.find(name);
-        if (Locked || found == FFiles.end()) return std::nullopt;
-        return found->second.Bytes;
+        const TFile file = Get(name);
+        return Locked || file.Stamp == 0 ? std::nullopt : std::optional(file.Bytes);
     }
     bool WriteFile(const std::string& name, std::string_view bytes) override {
-        if (ReadOnly) return false;
-        const std::lock_guard lock(FLock);
-        FFiles[name] = {std::string(bytes), 1000 + ++FWrites};
-        return true;
+        if (!ReadOnly) Put(name, bytes, 1000 + ++Writes);
+        return !ReadOnly;
     }
-    std::int64_t LastWriteTime(const std::string& name) override {
-        const std::lock_guard lock(FLock);
-        const auto found = FFiles.find(name);
-        return found == FFiles.end() ? 0 : found->second.Stamp;
-    }
+    std::int64_t LastWriteTime(const std::string& name) override { return Get(name).Stamp; }
     std::unique_ptr<TAppendFile> OpenAppend(const std::string& name) override {
         return std::make_unique<TAppender>(*this, name);
     }
 
  private:
-    struct TFile {
-        std::string Bytes;
-        std::int64_t Stamp = 0;
-    };
-    class TAppender final : public TAppendFile {
-     public:
-        TAppender(TMemoryFiles& files, std::string name) : FFiles(files), FName(std::move(name)) {}
+    struct TAppender final : TAppendFile {
+        TAppender(TMemoryFiles& files, std::string name) : Files(files), Name(std::move(name)) {}
         bool Write(std::string_view bytes) override {
-            const std::lock_guard lock(FFiles.FLock);
-            FFiles.FFiles[FName].Bytes += bytes;
+            Files.Put(Name, Files.Content(Name).append(bytes), 1);
             return true;
         }
-
-     private:
-        TMemoryFiles& FFiles;
-        std::string FName;
+        TMemoryFiles& Files;
+        const std::string Name;
     };
     std::mutex FLock;
     std::map<std::string, TFile> FFiles;
-    int FWrites = 0;
 };
 
 class TThing final : public TObject {

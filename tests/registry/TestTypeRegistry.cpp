@@ -62,10 +62,7 @@ TEST_F(TypeRegistry, NearestAncestorByNameAndFirstOfTies) {
     EXPECT_EQ(ClassDistance(&inherited, "TMemo", NoFinderMatch), -1);
     EXPECT_EQ(ClassLevel(nullptr, "TObject"), 2147483647);
 
-    const struct {
-        const char* Chain;
-        const char* Adapter;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"TObject TControl TCustomEdit TEdit TAppEdit TAppNameEdit", "Edit"},
         {"tCUSTOMedit", "Edit"},  // a class of that name, related to nothing
         {"TObject TTabSet TAppTabs", "TabSet"},
@@ -74,10 +71,10 @@ TEST_F(TypeRegistry, NearestAncestorByNameAndFirstOfTies) {
         {"TObject TTBCustomItem TTBXCustomItem", "Item"},
     };
     for (int round = 0; round < 2; ++round)
-        for (const auto& row : rows) {
-            const TAdapterEntry* found = registry.FindAdapterClass(&Chain(row.Chain));
-            ASSERT_NE(found, nullptr) << row.Chain;
-            EXPECT_EQ(found->Name, row.Adapter) << row.Chain;
+        for (const auto& [chain, expected] : rows) {
+            const TAdapterEntry* found = registry.FindAdapterClass(&Chain(chain));
+            ASSERT_NE(found, nullptr) << chain;
+            EXPECT_EQ(found->Name, expected) << chain;
         }
     ASSERT_NE(registry.FindNamedAdapter("LATE"), nullptr);
     EXPECT_EQ(registry.FindNamedAdapter("LATE")->Name, "Late");
@@ -105,12 +102,10 @@ TEST_F(TypeRegistry, FindersByDistanceByNameAndByASecondRoot) {
     registry.RegisterFindAdapter(Finder<"Item">("TTBCustomItem"));
     registry.RegisterFindAdapter(Finder<"MenuItem">("TTBCustomItem"));
     registry.RegisterFindAdapter(Finder<"Grid">("TRecordGrid", "TDBRecordGrid"));
-    registry.RegisterFindAdapter(Finder<"ITEM">("TControl"));
+    registry.RegisterFindAdapter(Finder<"ITEM">("TStrings"));
+    EXPECT_EQ(registry.Finders().size(), 5u);
 
-    const struct {
-        const char* Chain;
-        const char* Finder;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"TObject TControl TLabel", "Control"},
         {"TObject TTBCustomItem TTBXItem", "Item"},
         {"TObject TControl TRecordGrid", "Grid"},
@@ -119,9 +114,9 @@ TEST_F(TypeRegistry, FindersByDistanceByNameAndByASecondRoot) {
         {"TObject TStrings", "-"},
     };
     for (int round = 0; round < 2; ++round)
-        for (const auto& row : rows) {
-            TThing thing(Chain(row.Chain));
-            EXPECT_EQ(NameOf(registry.CreateFindAdapter(&thing)), row.Finder) << row.Chain;
+        for (const auto& [chain, expected] : rows) {
+            TThing thing(Chain(chain));
+            EXPECT_EQ(NameOf(registry.CreateFindAdapter(&thing)), expected) << chain;
         }
     TThing thing(Chain("TObject TStrings"));
     EXPECT_EQ(NameOf(registry.CreateNamedFindAdapter(&thing, "menuITEM")), "MenuItem");

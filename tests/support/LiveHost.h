@@ -25,7 +25,7 @@ namespace rux::test {
 class TLiveHost {
  public:
     /// Forms in UTF-8; the first is the main form and is shown. `stack` is the user-interface thread's.
-    explicit TLiveHost(std::vector<std::string_view> forms, std::size_t stack = 8u << 20);
+    explicit TLiveHost(std::vector<std::string_view> forms, std::size_t stack = 2u << 20);
     TLiveHost(const TLiveHost&) = delete;
     TLiveHost& operator=(const TLiveHost&) = delete;
     /// Ends the application and waits for it.

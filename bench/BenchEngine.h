@@ -24,23 +24,23 @@ class TBenchEngine {
 
     HToolkit& Kit() { return Desktop.Toolkit(); }
 
-    /// A form with `count` controls: panels of up to 20 controls each, side by side, half of them labels. The
-    /// caption of control i is "caption <i>".
-    HCustomForm& MakeForm(int count) {
+    /// A form with `count` controls in panels of up to `inPanel` each, half of them labels. The caption of control
+    /// i is "caption <i>".
+    HCustomForm& MakeForm(int count, int inPanel = 20) {
         auto form = Kit().MakeAs<HCustomForm>("TForm");
         form->SetText("bench");
         form->SetBounds({0, 0, 4000, 4000});
         auto& kept = static_cast<HCustomForm&>(Kit().App().Own(std::move(form)));
         HWinControl* parent = &kept;
         for (int i = 0; i < count; ++i) {
-            const bool panel = i % 20 == 0;
+            const bool panel = i % inPanel == 0;
             auto control = Kit().MakeAs<HControl>(panel ? "TPanel" : i % 2 ? "TLabel" : "TButton");
             control->SetText("caption " + std::to_string(i));
             auto& made = static_cast<HControl&>(kept.Own(std::move(control)));
-            const int place = panel ? i / 20 : i % 20;
-            const int side = panel ? 100 : 20, row = panel ? 30 : 4;
-            made.SetBounds({place % row * side, place / row * side, place % row * side + side,
-                            place / row * side + side});
+            const int place = panel ? i / inPanel : i % inPanel;
+            const int side = panel ? 100 : 4, row = panel ? 30 : 400;
+            made.SetBounds(
+                {place % row * side, place / row * side, place % row * side + side, place / row * side + side});
             made.SetParent(panel ? static_cast<HWinControl*>(&kept) : parent);
             if (panel) parent = static_cast<HWinControl*>(&made);
         }

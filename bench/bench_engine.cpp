@@ -39,7 +39,7 @@ void PerControl(benchmark::State& state) {
 
 void BM_PlainWalk(benchmark::State& state) {
     TBenchEngine engine;
-    HCustomForm& form = engine.MakeForm(static_cast<int>(state.range(0)));
+    HCustomForm& form = engine.MakeForm(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     const std::string caption = LastCaption(state);
     for (auto _ : state)
         if (PlainWalk(&form, caption) != 1) state.SkipWithError("not found");
@@ -48,7 +48,7 @@ void BM_PlainWalk(benchmark::State& state) {
 
 void BM_Search(benchmark::State& state) {
     TBenchEngine engine;
-    engine.MakeForm(static_cast<int>(state.range(0)));
+    engine.MakeForm(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     const std::string caption = LastCaption(state);
     for (auto _ : state) {
         TSolviLocatorParser parser(&engine.Kit().Application(), true);
@@ -57,8 +57,8 @@ void BM_Search(benchmark::State& state) {
     PerControl(state);
 }
 
-BENCHMARK(BM_PlainWalk)->RangeMultiplier(10)->Range(100, 100000);
-BENCHMARK(BM_Search)->RangeMultiplier(10)->Range(100, 100000);
+BENCHMARK(BM_PlainWalk)->ArgsProduct({{100, 1000, 10000, 100000}, {20}})->Args({100000, 100000});
+BENCHMARK(BM_Search)->ArgsProduct({{100, 1000, 10000, 100000}, {20}})->Args({100000, 100000});
 
 // ------------------------------------------------------------------------------------------ steps of a
 // request

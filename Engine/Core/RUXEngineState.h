@@ -4,7 +4,7 @@
 #include <atomic>
 #include <cstdint>
 #include <memory>
-#include <mutex>
+#include <shared_mutex>
 
 #include "Engine/Core/RUXLog.h"
 #include "Engine/Core/RUXRequestStack.h"
@@ -46,7 +46,8 @@ class TTaskCenterHolder {
     void Bury(TObjectPool pool);
 
  private:
-    std::mutex FLock;
+    /// Shared by those who post: whom a post wakes posts itself, and must not wait for the first one to go on.
+    std::shared_mutex FLock;
     ITaskCenter* FCenter = nullptr;
 };
 

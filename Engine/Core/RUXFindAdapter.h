@@ -11,6 +11,7 @@
 namespace rux {
 
 class ICommonLocator;
+class TTextMatcher;
 class TObject;
 
 /// What the locator knows of one findable thing. User-interface thread; lives for one search.
@@ -23,7 +24,8 @@ class IFindAdapter : public IInterface {
     virtual TRect GetBounds() = 0;
     /// The class name that locators see. The text outlives the finder.
     virtual const std::string& GetClassName() = 0;
-    virtual bool IsMatch(std::string_view text, bool partMatch) = 0;
+    /// Whether the text names the thing.
+    virtual bool IsMatch(const TTextMatcher& text) = 0;
     /// Lists are joined by `|`.
     virtual std::string GetContent() = 0;
     virtual bool IsVisible() = 0;

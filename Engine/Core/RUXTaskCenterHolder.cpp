@@ -1,19 +1,21 @@
+#include <mutex>
+
 #include "Engine/Core/RUXEngineState.h"
 
 namespace rux {
 
 void TTaskCenterHolder::Set(ITaskCenter* center) {
-    const std::lock_guard lock(FLock);
+    const std::unique_lock lock(FLock);
     FCenter = center;
 }
 
 bool TTaskCenterHolder::PostTask(unsigned message, WParam wParam, LParam lParam) {
-    const std::lock_guard lock(FLock);
+    const std::shared_lock lock(FLock);
     return FCenter && FCenter->PostTask(message, wParam, lParam);
 }
 
 void TTaskCenterHolder::Bury(TObjectPool pool) {
-    const std::lock_guard lock(FLock);
+    const std::shared_lock lock(FLock);
     if (FCenter) FCenter->Bury(std::move(pool));
 }
 

@@ -29,15 +29,6 @@ std::string GetWindowCaption(HWnd window) {
     return object ? Cast<TComponent>(object).Name() : text;
 }
 
-bool MatchText(std::string_view actual, std::string_view expected, bool partMatch) {
-    const bool blanks = actual.find(' ') != actual.npos || expected.find(' ') != expected.npos;
-    if (blanks) {
-        const std::string a = RemoveBlanks(actual), e = RemoveBlanks(expected);
-        return partMatch ? AnsiPos(e, a) > 0 : SameText(a, e);
-    }
-    return partMatch ? AnsiPos(expected, actual) > 0 : SameText(actual, expected);
-}
-
 namespace {
 
 std::string TextOf(const TPropValue& value, TObject& object, std::string_view name) {

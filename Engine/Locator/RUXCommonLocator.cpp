@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 #include "Engine/Core/RUXClasses.h"
+#include "Engine/Core/RUXTextMatcher.h"
 #include "Engine/Locator/RUXNearest.h"
 #include "Engine/Locator/RUXRectGeometry.h"
 #include "Engine/Locator/RUXSortList.h"
@@ -16,9 +17,6 @@
 namespace rux {
 
 namespace {
-
-/// Up to so many entries a list is compared one by one.
-constexpr std::size_t ShortList = 16;
 
 /// Sort key of one entry: its rectangle is fetched once.
 struct TControlOrderKey {
@@ -57,18 +55,8 @@ TIntf<TCommonLocator> TCommonLocator::NewList() const {
     return MakeIntf<TCommonLocator>(FParser);
 }
 
-bool TCommonLocator::IsNew(std::uint64_t id) {
-    if (FIdSet.empty()) {
-        if (std::find(FIds.begin(), FIds.end(), id) != FIds.end()) return false;
-        FIds.push_back(id);
-        if (FIds.size() > ShortList) FIdSet.insert(FIds.begin(), FIds.end());
-        return true;
-    }
-    return FIdSet.insert(id).second;
-}
-
 int TCommonLocator::AddUnique(const TIntf<IFindAdapter>& item) {
-    if (!item || !IsNew(item->GetID())) return -1;
+    if (!item || !FIds.Insert(item->GetID())) return -1;
     FItems.push_back(item);
     return GetCount() - 1;
 }
@@ -80,8 +68,9 @@ TIntf<IFindAdapter> TCommonLocator::GetItem(int index) {
 
 TIntf<ICommonLocator> TCommonLocator::FilterByText(std::string_view text, bool partMatch) {
     const TIntf<TCommonLocator> result = NewList();
+    const TTextMatcher matcher(Trim(text), partMatch);
     for (const TIntf<IFindAdapter>& item : FItems)
-        if (item->IsMatch(text, partMatch)) result->AddUnique(item);
+        if (item->IsMatch(matcher)) result->AddUnique(item);
     return result;
 }
 

@@ -1,12 +1,10 @@
 // The working list of a locator.
 #pragma once
 
-#include <cstdint>
-#include <memory>
-#include <unordered_set>
 #include <vector>
 
 #include "Engine/Core/RUXFindAdapter.h"
+#include "Engine/Locator/RUXIdSet.h"
 
 namespace rux {
 
@@ -25,21 +23,18 @@ class TCommonLocator final : public TInterfacedObject<ICommonLocator, int> {
     TIntf<ICommonLocator> FilterByClass(std::string_view classText) override;
     TIntf<ICommonLocator> SelectIndex(std::string_view indexText) override;
     int AddUnique(const TIntf<IFindAdapter>& item) override;
-    bool EnterOnce(IFindAdapter& item) override { return FEntered.insert(item.GetID()).second; }
+    bool EnterOnce(IFindAdapter& item) override { return FEntered.Insert(item.GetID()); }
     int GetCount() override { return static_cast<int>(FItems.size()); }
     TIntf<IFindAdapter> GetItem(int index) override;
 
  private:
-    bool IsNew(std::uint64_t id);
     void SortReadingOrder();
     TIntf<TCommonLocator> NewList() const;
 
     TSolviLocatorParser& FParser;
     std::vector<TIntf<IFindAdapter>> FItems;
-    /// Short lists compare; a long one has a set.
-    std::vector<std::uint64_t> FIds;
-    std::unordered_set<std::uint64_t> FIdSet;
-    std::unordered_set<std::uint64_t> FEntered;
+    TIdSet FIds;
+    TIdSet FEntered;
 };
 
 }  // namespace rux

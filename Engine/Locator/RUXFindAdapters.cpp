@@ -7,6 +7,7 @@
 #include "Engine/Core/RUXUtils.h"
 #include "Engine/Locator/RUXCommonLocator.h"
 #include "Engine/Locator/RUXContentMatch.h"
+#include "Engine/Locator/RUXFinderPool.h"
 #include "Engine/Registry/RUXTypeRegistry.h"
 #include "platform/WindowService.h"
 #include "platform/toolkit/Controls.h"
@@ -15,6 +16,8 @@
 namespace rux {
 
 namespace {
+
+thread_local TFinderPool Pool;
 
 constexpr std::int32_t NoPlace = std::numeric_limits<std::int32_t>::max();
 
@@ -33,6 +36,17 @@ bool FillsParent(TControl& control) {
 }  // namespace
 
 // ------------------------------------------------------------------------------------------ base
+
+void* TRUXFindAdapter::operator new(std::size_t size) {
+    return size <= TFinderPool::PieceSize ? Pool.Take() : ::operator new(size);
+}
+
+void TRUXFindAdapter::operator delete(void* storage, std::size_t size) {
+    if (size <= TFinderPool::PieceSize)
+        Pool.Give(storage);
+    else
+        ::operator delete(storage);
+}
 
 std::uint64_t TRUXFindAdapter::GetID() {
     return FInstance->RefNumber();
@@ -62,18 +76,16 @@ std::string TRUXFindAdapter::GetPropValue(std::string_view name) {
     return rux::GetPropValue(FInstance, name);
 }
 
-bool TRUXFindAdapter::IsMatch(std::string_view text, bool partMatch) {
-    text = Trim(text);
-    if (const std::string caption = GetCaption(); !IsBlank(caption))
-        return MatchText(caption, text, partMatch);
-    if (!IsBlank(GetContent())) return IsContentMatch(text, partMatch);
+bool TRUXFindAdapter::IsMatch(const TTextMatcher& text) {
+    if (const std::string caption = GetCaption(); !IsBlank(caption)) return text.Matches(caption);
+    if (!IsBlank(GetContent())) return IsContentMatch(text);
     const TPropertyNames& names = Engine().PropertyNames;
-    return MatchText(FirstText(names.Hint, names.Name), text, partMatch);
+    return text.Matches(FirstText(names.Hint, names.Name));
 }
 
-bool TRUXFindAdapter::IsContentMatch(std::string_view text, bool partMatch) {
+bool TRUXFindAdapter::IsContentMatch(const TTextMatcher& text) {
     const std::string content = GetContent();
-    return partMatch ? MatchText(Trim(content), text, true) : MatchContentPrefix(Trim(content), text);
+    return text.PartMatch() ? text.Matches(Trim(content)) : MatchContentPrefix(Trim(content), text.Text());
 }
 
 int TRUXFindAdapter::FindChildren(ICommonLocator& list) {

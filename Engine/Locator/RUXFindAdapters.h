@@ -33,11 +33,15 @@ class TRUXFindAdapter : public TInterfacedObject<IFindAdapter, int> {
  public:
     explicit TRUXFindAdapter(TObject* instance) : FInstance(instance) {}
 
+    /// Finders are made by the thousand and live on one thread.
+    static void* operator new(std::size_t size);
+    static void operator delete(void* storage, std::size_t size);
+
     std::uint64_t GetID() override;
     std::string GetCaption() override;
     TRect GetBounds() override;
     const std::string& GetClassName() override;
-    bool IsMatch(std::string_view text, bool partMatch) override;
+    bool IsMatch(const TTextMatcher& text) override;
     std::string GetContent() override { return {}; }
     bool IsVisible() override { return false; }
     bool IsEnabled() override { return true; }
@@ -47,7 +51,7 @@ class TRUXFindAdapter : public TInterfacedObject<IFindAdapter, int> {
     std::string GetPropValue(std::string_view name) final;
 
     /// How a text names the content, when there is one and no caption.
-    virtual bool IsContentMatch(std::string_view text, bool partMatch);
+    virtual bool IsContentMatch(const TTextMatcher& text);
     /// What lies directly below; nil for nothing.
     virtual std::unique_ptr<TChildWalk> StartWalk() { return nullptr; }
 

@@ -40,6 +40,7 @@ void WriteError(const std::string& text) {
 TPosixKernel::TPosixKernel(TWaitClock& clock, TKernelFacts facts)
     : FClock(clock),
       FFacts(std::move(facts)),
+      FProcessId(static_cast<std::uint32_t>(::getpid())),
       FThreads(clock, FFacts.ThreadStackSize),
       FObjects(FFacts.ObjectFolder),
       FMemoryFigures(::open("/proc/self/statm", O_RDONLY | O_CLOEXEC)) {}
@@ -65,11 +66,12 @@ void TPosixKernel::Sleep(std::uint32_t milliseconds) {
 }
 
 std::uint32_t TPosixKernel::GetCurrentProcessId() {
-    return static_cast<std::uint32_t>(::getpid());
+    return FProcessId;
 }
 
 std::uintptr_t TPosixKernel::GetCurrentThreadId() {
-    return static_cast<std::uintptr_t>(::gettid());
+    thread_local const auto id = static_cast<std::uintptr_t>(::gettid());
+    return id;
 }
 
 std::uint32_t TPosixKernel::GetLastError() {

@@ -65,6 +65,8 @@ class TPosixKernel : public TKernelService {
  private:
     TWaitClock& FClock;
     const TKernelFacts FFacts;
+    /// Asked for each window of a search, and no small matter for the system to tell.
+    const std::uint32_t FProcessId;
     TPosixThreads FThreads;
     TNamedObjects FObjects;
     TFileDescriptor FMemoryFigures;

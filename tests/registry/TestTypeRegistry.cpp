@@ -15,7 +15,7 @@ class TNamedFinder final : public TInterfacedObject<IFindAdapter, int> {
     std::string GetCaption() override { return FName; }
     TRect GetBounds() override { return {}; }
     const std::string& GetClassName() override { return FName; }
-    bool IsMatch(std::string_view, bool) override { return false; }
+    bool IsMatch(const TTextMatcher&) override { return false; }
     std::string GetContent() override { return {}; }
     bool IsVisible() override { return false; }
     bool IsEnabled() override { return false; }

@@ -13,6 +13,13 @@ inline constexpr TRect HScreenRect{0, 0, 1280, 1024};
 inline constexpr std::size_t HQueueLimit = 10000;
 /// Text that GetWindowTextA returns at most: a buffer of 255 with its final zero.
 inline constexpr std::size_t HWindowTextLimit = 254;
+/// Names in each of the tables of atoms and of registered messages: numbers from C000 to FFFF.
+inline constexpr std::size_t HAtomLimit = 0x4000;
+/// Bounds of a control's position and size, before and behind zero. A form file may ask for more, and sums
+/// along a chain of parents must stay numbers.
+inline constexpr int HCoordLimit = 1 << 15;
+/// Bound of every position on the screen.
+inline constexpr int HScreenCoordLimit = 1 << 30;
 /// Windows alive at once.
 inline constexpr std::size_t HWindowLimit = 1u << 20;
 /// Handles of dead windows that rest before the first of them is given out again.
@@ -24,7 +31,7 @@ inline constexpr std::uint64_t HRefBase = std::uint64_t{1} << 40;
 /// Files that stand on each other: frames within frames, forms above forms.
 inline constexpr std::size_t HFormAncestryLimit = 32;
 /// Objects that one load makes: frames within frames multiply.
-inline constexpr std::size_t HLoadedObjectLimit = 1u << 20;
+inline constexpr std::size_t HLoadedObjectLimit = 1u << 18;
 
 /// Frame and caption of the classic look at 96 dots per inch.
 inline constexpr int HSizeFrame = 4;

@@ -5,10 +5,26 @@ namespace rux {
 
 void RegisterToolkitClasses(HClasses& classes) {
     RegisterControlsUnit(classes);
+    RegisterGraphicsUnit(classes);
     RegisterFormsUnit(classes);
     RegisterStdCtrlsUnit(classes);
+    RegisterListUnits(classes);
+    RegisterButtonUnits(classes);
+    RegisterExtCtrlsUnit(classes);
+    RegisterPanelClasses(classes);
     RegisterMenusUnit(classes);
+    RegisterActionUnits(classes);
+    RegisterActionBarUnits(classes);
     RegisterComCtrlsUnit(classes);
+    RegisterViewClasses(classes);
+    RegisterToolBarClasses(classes);
+    RegisterDialogUnits(classes);
+    RegisterPageUnits(classes);
+    RegisterGridUnits(classes);
+    RegisterDataUnits(classes);
+    RegisterDataControlUnits(classes);
+    RegisterReportUnits(classes);
+    RegisterSystemUnits(classes);
 }
 
 }  // namespace rux

@@ -44,12 +44,15 @@ void HClassParents::Load(const std::string& fileName, std::string_view text) {
 }
 
 void HClassParents::CheckCircles(const std::string& fileName) const {
+    // The first class of a walk that met the name; a walk that meets its own mark has gone round.
+    std::unordered_map<std::string, const std::string*> marks;
     for (const auto& [name, parent] : FParents) {
-        std::string step = parent;
-        for (std::size_t count = 0; !step.empty(); ++count) {
-            if (count > FParents.size())
-                throw Exception(fileName + ": the parents of " + name + " form a circle");
-            step = ParentOf(step);
+        for (std::string step = name; !step.empty(); step = UpperCase(ParentOf(step))) {
+            const auto [mark, isNew] = marks.emplace(step, &name);
+            if (isNew) continue;
+            if (mark->second == &name)
+                throw Exception(fileName + ": the parents of " + step + " form a circle");
+            break;
         }
     }
 }
@@ -61,37 +64,55 @@ std::string HClassParents::ParentOf(std::string_view className) const {
 
 // ------------------------------------------------------------------------------------------ choice
 
-HClassChooser::HClassChooser(HClasses& classes, const HClassParents& parents, const TFormFile& file)
-    : FClasses(classes), FParents(parents), FFile(file), FIsControl(file.Objects.size()) {
+HClassChooser::HClassChooser(HClasses& classes, const HClassParents& parents,
+                             const std::vector<TFormFile>& files)
+    : FClasses(classes), FParents(parents) {
+    for (const TFormFile& file : files) Look(file);
+}
+
+HClassChooser::TShape HClassChooser::RootShape(const TFormObject& root) {
+    if (HasProperties(root, {"TabOrder"})) return TShape::Frame;
+    for (const std::string_view name :
+         {"Caption", "ClientWidth", "ClientHeight", "PixelsPerInch", "BorderStyle", "Color", "Font.Name"})
+        if (HasProperties(root, {name})) return TShape::Form;
+    return HasProperties(root, {"Height", "Width"}) ? TShape::Module : TShape::Form;
+}
+
+void HClassChooser::Look(const TFormFile& file) {
+    std::vector<bool> isControl(file.Objects.size());
     // Children stand behind their parents, so that going backwards meets them first.
     for (std::size_t i = file.Objects.size(); i-- > 0;) {
         const TFormObject& object = file.Objects[i];
-        const HClassDef* known = FClasses.FindDef(object.ClassName);
-        const bool inherits = object.Kind != TFormObjectKind::Object;
-        FIsControl[i] =
-            known ? IsControlClass(known)
-                  : object.Kind == TFormObjectKind::Inline ||
-                        HasProperties(object, {"Left", "Top", "Width", "Height"}) ||
-                        (inherits && HasProperties(object, {"Width"})) ||
-                        std::any_of(object.Children.begin(), object.Children.end(),
-                                    [&](int child) { return FIsControl[static_cast<std::size_t>(child)]; });
+        if (const HClassDef* known = FClasses.FindDef(object.ClassName)) {
+            isControl[i] = IsControlClass(known);
+            continue;
+        }
+        const bool holdsControls =
+            std::any_of(object.Children.begin(), object.Children.end(),
+                        [&](int child) { return isControl[static_cast<std::size_t>(child)]; });
+        const bool sized = HasProperties(object, {"Left", "Top", "Width", "Height"}) ||
+                           (object.Kind != TFormObjectKind::Object && HasProperties(object, {"Width"}));
+        isControl[i] = object.Kind == TFormObjectKind::Inline || sized || holdsControls;
+        // Only a control with a window of its own has children or a place in the tab order.
+        const bool windowed = !object.Children.empty() || HasProperties(object, {"TabOrder"});
+        const TShape shape = i == 0                                   ? RootShape(object)
+                             : object.Kind == TFormObjectKind::Inline ? TShape::Frame
+                             : !isControl[i]                          ? TShape::Component
+                             : windowed                               ? TShape::Windowed
+                                                                      : TShape::Graphic;
+        TShape& kept = FShapes.emplace(UpperCase(object.ClassName), shape).first->second;
+        kept = std::max(kept, shape);
     }
 }
 
-std::string_view HClassChooser::Guess(std::size_t index) const {
-    const TFormObject& object = FFile.Objects[index];
-    if (object.Kind == TFormObjectKind::Inline) return "TFrame";
-    if (!FIsControl[index]) return "TComponent";
-    // Only a control with a window of its own has children or a place in the tab order.
-    const bool windowed = !object.Children.empty() || HasProperties(object, {"TabOrder"});
-    return windowed ? "TCustomControl" : "TGraphicControl";
+std::string_view HClassChooser::ServerOf(const std::string& className) const {
+    static constexpr std::string_view Servers[] = {"TComponent",  "TGraphicControl", "TCustomControl",
+                                                   "TDataModule", "TForm",           "TFrame"};
+    const auto found = FShapes.find(UpperCase(className));
+    return found == FShapes.end() ? std::string_view() : Servers[static_cast<std::size_t>(found->second)];
 }
 
-const HClassDef& HClassChooser::DefOf(std::size_t object) {
-    return DefOf(FFile.Objects[object].ClassName, Guess(object));
-}
-
-const HClassDef& HClassChooser::DefOf(const std::string& className, std::string_view fallback) {
+const HClassDef& HClassChooser::DefOf(const std::string& className) {
     // From the class upwards to the first that is known, then down again.
     std::vector<std::string> unknown;
     std::string step = className;
@@ -99,7 +120,10 @@ const HClassDef& HClassChooser::DefOf(const std::string& className, std::string_
     while (!def) {
         unknown.push_back(step);
         step = FParents.ParentOf(step);
-        if (step.empty()) step = fallback;
+        // What no class file explains is served by its looks: the topmost class's, else those of the class
+        // itself.
+        if (step.empty()) step = ServerOf(unknown.back());
+        if (step.empty()) step = ServerOf(className);
         def = FClasses.FindDef(step);
     }
     for (auto name = unknown.rbegin(); name != unknown.rend(); ++name)

@@ -25,22 +25,24 @@ class HClassParents {
     std::unordered_map<std::string, std::string> FParents;
 };
 
-/// Chooses for the objects of one file. Unknown classes are served by the class that the class file names,
-/// else by what the file shows: with controls on it, a container; with a size, a control; else a component.
+/// Chooses for the objects of some files. Unknown classes are served by the class that the class file names,
+/// else by what all objects of the class together show: with controls on one of them, a container; with a
+/// size, a control; else a component.
 class HClassChooser {
  public:
-    HClassChooser(HClasses& classes, const HClassParents& parents, const TFormFile& file);
-    const HClassDef& DefOf(std::size_t object);
-    /// The class under its file name, served as `fallback` when nothing says better.
-    const HClassDef& DefOf(const std::string& className, std::string_view fallback);
+    HClassChooser(HClasses& classes, const HClassParents& parents, const std::vector<TFormFile>& files);
+    const HClassDef& DefOf(const std::string& className);
 
  private:
-    std::string_view Guess(std::size_t object) const;
+    /// In the order in which one object's evidence outweighs another's.
+    enum class TShape { Component, Graphic, Windowed, Module, Form, Frame };
+    void Look(const TFormFile& file);
+    static TShape RootShape(const TFormObject& root);
+    std::string_view ServerOf(const std::string& className) const;
 
     HClasses& FClasses;
     const HClassParents& FParents;
-    const TFormFile& FFile;
-    std::vector<bool> FIsControl;
+    std::unordered_map<std::string, TShape> FShapes;
 };
 
 }  // namespace rux

@@ -1,7 +1,7 @@
 #include "platform/headless/loader/HFormLoader.h"
 
 #include <algorithm>
-#include <unordered_set>
+#include <unordered_map>
 
 #include "platform/headless/HLimits.h"
 #include "platform/headless/toolkit/HForm.h"
@@ -12,15 +12,24 @@ namespace rux {
 
 /// What one call of Load gathers.
 struct HFormLoader::TPass {
-    explicit TPass(HToolkit& kit) : Properties(kit) {}
+    TPass(HToolkit& kit, const HClassParents& parents, const std::vector<TFormFile>& files)
+        : Classes(kit.ClassDefs(), parents, files), Properties(kit) {
+        for (const TFormFile& file : files) Files.emplace(UpperCase(file.Objects.front().ClassName), &file);
+    }
+    HClassChooser Classes;
     HPropertyReader Properties;
+    std::unordered_map<std::string, const TFormFile*> Files;
     std::vector<HComponent*> Roots;
     /// In the order of their making.
     std::vector<HComponent*> Made;
-    std::unordered_set<const HComponent*> Known;
     /// Components by scope and name: forms hold too many to search them one by one.
-    std::map<const HComponent*, std::unordered_map<std::string, HComponent*>> Names;
+    std::unordered_map<const HComponent*, std::unordered_map<std::string, HComponent*>> Names;
 
+    /// The file whose root is of that class; nil if it was not given.
+    const TFormFile* FileOf(const std::string& className) const {
+        const auto found = Files.find(UpperCase(className));
+        return found == Files.end() ? nullptr : found->second;
+    }
     HComponent* Find(const HComponent& scope, std::string_view name) const {
         const auto row = Names.find(&scope);
         if (row == Names.end()) return nullptr;
@@ -31,20 +40,6 @@ struct HFormLoader::TPass {
 
 namespace {
 
-/// What serves a root that neither the toolkit nor the class file knows.
-std::string_view RootKind(const TFormFile& file) {
-    const TFormObject& root = file.Objects.front();
-    const auto has = [&](std::string_view name) {
-        return std::any_of(root.Properties.begin(), root.Properties.end(),
-                           [&](const TFormProperty& p) { return SameText(p.Name, name); });
-    };
-    if (has("TabOrder")) return "TFrame";
-    const bool form = has("Caption") || has("ClientWidth") || has("ClientHeight") || has("PixelsPerInch") ||
-                      has("BorderStyle") || has("Color") || has("Font.Name");
-    const bool module = !form && has("Height") && has("Width");
-    return module ? "TDataModule" : "TForm";
-}
-
 bool IsIgnored(const HComponent& component, std::string_view property) {
     if (property.starts_with("Explicit")) return true;
     // Of a component that is no control these are the place of its icon on the design surface.
@@ -54,48 +49,48 @@ bool IsIgnored(const HComponent& component, std::string_view property) {
 
 }  // namespace
 
-const TFormFile* HFormLoader::FileOfClass(const std::string& className) const {
-    const auto found = FFilesByClass.find(UpperCase(className));
-    return found == FFilesByClass.end() ? nullptr : found->second;
-}
-
 bool HFormLoader::LacksAncestor(const HComponent& component) const {
-    return std::find(FLacking.begin(), FLacking.end(), &component) != FLacking.end();
+    return FLacking.count(component.RefNumber()) != 0;
 }
 
 std::vector<HComponent*> HFormLoader::Load(const std::vector<TFormFile>& files) {
-    for (const TFormFile& file : files)
-        FFilesByClass.emplace(UpperCase(file.Objects.front().ClassName), &file);
-    TPass pass(FKit);
-    for (const TFormFile& file : files) {
-        HClassChooser chooser(FKit.ClassDefs(), FParents, file);
-        const HClassDef& def = chooser.DefOf(file.Objects.front().ClassName, RootKind(file));
-        std::unique_ptr<HObject> made = def.Make ? def.Make(FKit, def) : nullptr;
-        auto* root = dynamic_cast<HComponent*>(made.get());
-        if (!root)
-            throw Exception(file.FileName + ":1: a " + def.Class->Name() +
-                            " cannot be the root of a form file");
-        made.release();
-        FKit.App().Own(std::unique_ptr<HComponent>(root));
-        pass.Roots.push_back(root);
-        Build(pass, file, *root, 0);
+    const HDesktop::THandling handling(FKit.Desktop());
+    TPass pass(FKit, FParents, files);
+    try {
+        for (const TFormFile& file : files) Build(pass, file, MakeRoot(pass, file), 0);
+    } catch (...) {
+        for (HComponent* root : pass.Roots) root->Free();
+        throw;
     }
     Finish(pass);
+    std::erase_if(pass.Roots, [](const HComponent* root) { return root->Dead(); });
     return pass.Roots;
+}
+
+HComponent& HFormLoader::MakeRoot(TPass& pass, const TFormFile& file) {
+    const HClassDef& def = pass.Classes.DefOf(file.Objects.front().ClassName);
+    std::unique_ptr<HObject> made = def.Make ? def.Make(FKit, def) : nullptr;
+    auto* root = dynamic_cast<HComponent*>(made.get());
+    if (!root)
+        throw Exception(file.FileName + ":1: a " + def.Class->Name() + " cannot be the root of a form file");
+    made.release();
+    FKit.App().Own(std::unique_ptr<HComponent>(root));
+    pass.Roots.push_back(root);
+    pass.Made.push_back(root);
+    return *root;
 }
 
 void HFormLoader::Build(TPass& pass, const TFormFile& file, HComponent& root, std::size_t depth) {
     if (depth > HFormAncestryLimit)
         throw Exception(file.FileName + ":1: forms and frames stand on each other too deep");
+    root.BeginLoading();
     const TFormObject& rootObject = file.Objects.front();
     if (rootObject.Kind == TFormObjectKind::Inherited) {
-        if (const TFormFile* ancestor = FileOfClass(FParents.ParentOf(rootObject.ClassName)))
+        if (const TFormFile* ancestor = pass.FileOf(FParents.ParentOf(rootObject.ClassName)))
             Build(pass, *ancestor, root, depth + 1);
         else
-            FLacking.push_back(&root);
+            FLacking.insert(root.RefNumber());
     }
-    if (pass.Known.insert(&root).second) pass.Made.push_back(&root);
-    root.BeginLoading();
     root.SetName(rootObject.Name);
     const auto read = [&](HComponent& component, const TFormObject& object, HComponent& scope) {
         for (const TFormProperty& property : object.Properties)
@@ -103,7 +98,6 @@ void HFormLoader::Build(TPass& pass, const TFormFile& file, HComponent& root, st
     };
     read(root, rootObject, root);
 
-    HClassChooser chooser(FKit.ClassDefs(), FParents, file);
     std::vector<HComponent*> made(file.Objects.size(), &root);
     // Objects inside an inline frame are looked up, and owned, there.
     std::vector<HComponent*> scopes(file.Objects.size(), &root);
@@ -113,17 +107,17 @@ void HFormLoader::Build(TPass& pass, const TFormFile& file, HComponent& root, st
         HComponent& scope = *scopes[parent];
         HComponent* existing =
             object.Kind == TFormObjectKind::Inherited ? pass.Find(scope, object.Name) : nullptr;
-        made[i] =
-            existing ? existing : &MakeObject(pass, object, chooser.DefOf(i), scope, made[parent], depth);
+        made[i] = existing ? existing : &MakeObject(pass, object, scope, made[parent], depth);
         if (existing) Place(*existing, nullptr, object);
         scopes[i] = object.Kind == TFormObjectKind::Inline ? made[i] : &scope;
         read(*made[i], object, scope);
     }
 }
 
-HComponent& HFormLoader::MakeObject(TPass& pass, const TFormObject& object, const HClassDef& def,
-                                    HComponent& scope, HComponent* parent, std::size_t depth) {
+HComponent& HFormLoader::MakeObject(TPass& pass, const TFormObject& object, HComponent& scope,
+                                    HComponent* parent, std::size_t depth) {
     if (pass.Made.size() >= HLoadedObjectLimit) throw Exception("The forms hold too many objects");
+    const HClassDef& def = pass.Classes.DefOf(object.ClassName);
     std::unique_ptr<HObject> raw = def.Make ? def.Make(FKit, def) : nullptr;
     if (!dynamic_cast<HComponent*>(raw.get())) {
         // A class that is known, but not as something that forms hold.
@@ -133,15 +127,14 @@ HComponent& HFormLoader::MakeObject(TPass& pass, const TFormObject& object, cons
     HComponent& made = scope.Own(std::unique_ptr<HComponent>(static_cast<HComponent*>(raw.release())));
     made.SetName(object.Name);
     made.BeginLoading();
-    pass.Known.insert(&made);
     pass.Made.push_back(&made);
     if (!object.Name.empty()) pass.Names[&scope].emplace(UpperCase(object.Name), &made);
     Place(made, parent, object);
     if (object.Kind != TFormObjectKind::Inline) return made;
-    if (const TFormFile* frame = FileOfClass(object.ClassName))
+    if (const TFormFile* frame = pass.FileOf(object.ClassName))
         Build(pass, *frame, made, depth + 1);
     else
-        FLacking.push_back(&made);
+        FLacking.insert(made.RefNumber());
     made.SetName(object.Name);
     return made;
 }
@@ -162,17 +155,32 @@ void HFormLoader::Place(HComponent& component, HComponent* parent, const TFormOb
     if (auto* above = dynamic_cast<HMenuItem*>(parent)) above->AddItem(*item);
 }
 
-void HFormLoader::Resolve(const TPass& pass, const HReference& reference) {
+HComponent* HFormLoader::Target(const TPass& pass, const HReference& reference) const {
+    const auto within = [&](const HComponent& scope, std::string_view name) {
+        HComponent* found = pass.Find(scope, name);
+        return found ? found : scope.FindComponent(name);
+    };
+    std::string_view path = reference.Target;
+    const auto next = [&path] {
+        const std::string_view part = path.substr(0, path.find('.'));
+        path.remove_prefix(std::min(path.size(), part.size() + 1));
+        return part;
+    };
+    // The first name is looked for from the reference outwards, up to the application's forms.
+    const std::string_view first = next();
     HComponent* target = nullptr;
-    const std::size_t dot = reference.Target.find('.');
-    if (dot == std::string::npos) {
-        for (HComponent* scope = reference.Scope; scope && !target; scope = scope->OwnerComponent())
-            target = SameText(scope->Name(), reference.Target) ? scope : pass.Find(*scope, reference.Target);
-    } else {
-        for (const HComponent* root : pass.Roots)
-            if (!target && SameText(root->PlainName(), reference.Target.substr(0, dot)))
-                target = pass.Find(*root, reference.Target.substr(dot + 1));
+    for (HComponent* scope = reference.Scope; scope && !target; scope = scope->OwnerComponent()) {
+        const bool outermost = !scope->OwnerComponent();
+        target = SameText(scope->Name(), first) ? scope
+                 : outermost                    ? scope->FindComponent(first)
+                                                : pass.Find(*scope, first);
     }
+    while (target && !path.empty()) target = within(*target, next());
+    return target;
+}
+
+void HFormLoader::Resolve(const TPass& pass, const HReference& reference) {
+    HComponent* target = Target(pass, reference);
     const HPropDef* def = reference.Object->Def().Props->Find(reference.Property);
     if (target && (!def || def->Kind == TTypeKind::Class)) {
         reference.Object->SetProp(reference.Property, HObjectValue(target));
@@ -188,15 +196,15 @@ void HFormLoader::Finish(TPass& pass) {
     for (const HReference& reference : pass.Properties.References()) Resolve(pass, reference);
     for (HComponent* component : pass.Made) component->Loaded();
     for (HComponent* root : pass.Roots) {
-        if (FHook) FHook(*root);
-        root->Fire(FKit.Names().OnCreate);
+        if (FHook && !root->Dead()) FHook(*root);
+        root->FireGuarded(FKit.Names().OnCreate);
     }
 }
 
 void ShowLoadedForms(const std::vector<HComponent*>& roots) {
     for (HComponent* root : roots) {
         auto* form = dynamic_cast<HCustomForm*>(root);
-        if (form && !form->Dead() && form->ShowOnLoad()) form->Show();
+        if (form && !form->Dead() && form->WantsShow()) form->Show();
     }
 }
 

@@ -2,11 +2,10 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "platform/headless/forms/FormFile.h"
@@ -27,7 +26,8 @@ class HFormLoader {
 
     /// Makes the objects of all files. A file may stand on another one of the same call: the frame behind an
     /// inline object, the ancestor behind an inherited form (which the class file names). Roots come in the
-    /// order of the files. Nothing is shown. Raises Exception when the objects cannot be made.
+    /// order of the files, without those that code of the application has freed already. Nothing is shown.
+    /// Raises Exception when the objects cannot be made; then none of them is left.
     std::vector<HComponent*> Load(const std::vector<TFormFile>& files);
 
     /// True for a component whose file stands on another one that was not given.
@@ -35,19 +35,19 @@ class HFormLoader {
 
  private:
     struct TPass;
+    HComponent& MakeRoot(TPass& pass, const TFormFile& file);
     void Build(TPass& pass, const TFormFile& file, HComponent& root, std::size_t depth);
-    HComponent& MakeObject(TPass& pass, const TFormObject& object, const HClassDef& def, HComponent& scope,
-                           HComponent* parent, std::size_t depth);
+    HComponent& MakeObject(TPass& pass, const TFormObject& object, HComponent& scope, HComponent* parent,
+                           std::size_t depth);
+    HComponent* Target(const TPass& pass, const HReference& reference) const;
     void Resolve(const TPass& pass, const HReference& reference);
     void Place(HComponent& component, HComponent* parent, const TFormObject& object);
     void Finish(TPass& pass);
-    const TFormFile* FileOfClass(const std::string& className) const;
 
     HToolkit& FKit;
     const HClassParents& FParents;
     TRootHook FHook;
-    std::unordered_map<std::string, const TFormFile*> FFilesByClass;
-    std::vector<const HComponent*> FLacking;
+    std::unordered_set<std::uint64_t> FLacking;
 };
 
 /// Roots that the application shows once everything is loaded: forms with Visible = True in their file.

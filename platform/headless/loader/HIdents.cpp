@@ -1,6 +1,8 @@
 #include "platform/headless/loader/HIdents.h"
 
-#include "rtl/Text.h"
+#include <unordered_map>
+
+#include "rtl/Names.h"
 
 namespace rux {
 
@@ -122,14 +124,25 @@ constexpr TIdent Idents[] = {
     {"mrYes", 6},
     {"mrNo", 7},
     {"mrAll", 8},
+    {"mrNoToAll", 9},
+    {"mrYesToAll", 10},
+};
+
+/// Large forms ask for one identifier or more with every control.
+struct TIdentTable {
+    TIdentTable() {
+        for (const TIdent& row : Idents) Values.emplace(InternName(row.Name).Id, row.Value);
+    }
+    std::unordered_map<std::uint32_t, std::int64_t> Values;
 };
 
 }  // namespace
 
 std::optional<std::int64_t> IntegerOfIdent(std::string_view ident) {
-    for (const TIdent& row : Idents)
-        if (SameText(row.Name, ident)) return row.Value;
-    return std::nullopt;
+    static const TIdentTable table;
+    const auto found = table.Values.find(FindName(ident).Id);
+    if (found == table.Values.end()) return std::nullopt;
+    return found->second;
 }
 
 }  // namespace rux

@@ -3,6 +3,7 @@
 #include <cctype>
 
 #include "platform/headless/loader/HIdents.h"
+#include "platform/headless/toolkit/HClasses.h"
 #include "platform/headless/toolkit/HStrings.h"
 #include "platform/headless/toolkit/HToolkit.h"
 #include "rtl/StringList.h"
@@ -15,6 +16,10 @@ namespace {
 /// "OnClick", not "Online": events of the toolkit go on with a capital letter.
 bool IsEventName(std::string_view name) {
     return name.size() > 2 && name.substr(0, 2) == "On" && std::isupper(static_cast<unsigned char>(name[2]));
+}
+
+bool IsBoolean(std::string_view ident) {
+    return SameText(ident, "True") || SameText(ident, "False");
 }
 
 std::string TextOfElement(const TFormValue& value) {
@@ -43,7 +48,9 @@ HObject* HPropertyReader::PartOf(HObject& object, TName name, std::string_view c
     TPropValue value;
     if (object.GetProp(name, value) && value.Object) return dynamic_cast<HObject*>(value.Object);
     if (value.Kind != TTypeKind::Unknown && value.Kind != TTypeKind::Class) return nullptr;
-    HObject& part = object.Adopt(FKit.Make(className));
+    std::unique_ptr<HObject> made = FKit.Make(className);
+    if (!made) return nullptr;
+    HObject& part = object.Adopt(std::move(made));
     object.SetProp(name, HObjectValue(&part));
     return &part;
 }
@@ -58,11 +65,11 @@ void HPropertyReader::Read(HObject& object, const TFormProperty& property, HComp
         if (!target) return;
         path = rest;
     }
-    if (IsEventName(path) && property.Value.As<TFormIdent>()) {
-        const std::string& method = property.Value.As<TFormIdent>()->Name;
-        auto* component = dynamic_cast<HComponent*>(target);
-        if (component && !method.empty() && !SameText(method, "nil"))
-            component->SetEvent(InternName(path), method);
+    const auto* method = property.Value.As<TFormIdent>();
+    auto* component = dynamic_cast<HComponent*>(target);
+    if (component && method && IsEventName(path) && !IsBoolean(method->Name)) {
+        // A form that stands on another may take an event's method away.
+        component->SetEvent(InternName(path), SameText(method->Name, "nil") ? std::string() : method->Name);
         return;
     }
     ReadValue(*target, InternName(path), property.Value, scope);
@@ -71,29 +78,33 @@ void HPropertyReader::Read(HObject& object, const TFormProperty& property, HComp
 void HPropertyReader::ReadValue(HObject& object, TName name, const TFormValue& value, HComponent& scope) {
     const HPropDef* def = object.Def().Props->Find(name);
     const bool wantsFloat = def && def->Kind == TTypeKind::Float;
-    value.Visit([&](const TFormString& text) { object.SetProp(name, HStringValue(text.Text)); },
-                [&](std::int64_t number) {
-                    if (def && def->Kind == TTypeKind::Enumeration)
-                        object.SetProp(name, HEnumValue(*def->Enum, static_cast<int>(number)));
-                    else
-                        object.SetProp(name, wantsFloat ? HFloatValue(static_cast<double>(number))
-                                                        : HIntegerValue(number));
-                },
-                [&](const TFormFloat& number) { object.SetProp(name, HFloatValue(number.Value)); },
-                [&](const TFormIdent& ident) { ReadIdent(object, name, def, ident.Name, scope); },
-                [&](const TFormSet& set) {
-                    object.SetProp(name, HSetValue(SetText(def ? def->Enum : nullptr, set.Elements)));
-                },
-                [&](const TFormList& list) {
-                    std::vector<std::string> lines;
-                    for (const TFormValue& element : list.Values) lines.push_back(TextOfElement(element));
-                    if (auto* strings = dynamic_cast<HStrings*>(&object))
-                        strings->SetLines(std::move(lines));
-                    else
-                        object.SetProp(name, HStringValue(JoinDelimited(lines, ',')));
-                },
-                [&](const TFormBinary& binary) { object.StoreBlob(name, binary.Bytes); },
-                [&](const TFormCollection& collection) { ReadCollection(object, name, collection, scope); });
+    const bool wantsChar = def && def->Kind == TTypeKind::Char;
+    value.Visit(
+        [&](const TFormString& text) {
+            object.SetProp(name, wantsChar ? HCharValue(text.Text) : HStringValue(text.Text));
+        },
+        [&](std::int64_t number) {
+            if (def && def->Kind == TTypeKind::Enumeration)
+                object.SetProp(name, HEnumValue(*def->Enum, static_cast<int>(number)));
+            else
+                object.SetProp(name,
+                               wantsFloat ? HFloatValue(static_cast<double>(number)) : HIntegerValue(number));
+        },
+        [&](const TFormFloat& number) { object.SetProp(name, HFloatValue(number.Value)); },
+        [&](const TFormIdent& ident) { ReadIdent(object, name, def, ident.Name, scope); },
+        [&](const TFormSet& set) {
+            object.SetProp(name, HSetValue(SetText(def ? def->Enum : nullptr, set.Elements)));
+        },
+        [&](const TFormList& list) {
+            std::vector<std::string> lines;
+            for (const TFormValue& element : list.Values) lines.push_back(TextOfElement(element));
+            if (auto* strings = dynamic_cast<HStrings*>(&object))
+                strings->SetLines(std::move(lines));
+            else
+                object.SetProp(name, HStringValue(JoinDelimited(lines, ',')));
+        },
+        [&](const TFormBinary& binary) { object.StoreBlob(name, binary.Bytes); },
+        [&](const TFormCollection& collection) { ReadCollection(object, name, collection, scope); });
 }
 
 void HPropertyReader::ReadIdent(HObject& object, TName name, const HPropDef* def, const std::string& ident,
@@ -113,7 +124,7 @@ void HPropertyReader::ReadIdent(HObject& object, TName name, const HPropDef* def
         object.SetProp(name, HObjectValue(nullptr));
         return;
     }
-    if (SameText(ident, "True") || SameText(ident, "False")) {
+    if (IsBoolean(ident)) {
         object.SetProp(name, HBooleanValue(SameText(ident, "True")));
         return;
     }
@@ -129,8 +140,12 @@ void HPropertyReader::ReadCollection(HObject& object, TName name, const TFormCol
                                      HComponent& scope) {
     auto* target = dynamic_cast<HCollection*>(PartOf(object, name, "TCollection"));
     if (!target) return;
+    const HClassDef* known = target->Def().Item;
+    const HClassDef& itemDef = known ? *known : *FKit.ClassDefs().FindDef("TCollectionItem");
+    // A form that stands on another one gives the whole collection anew.
+    target->Clear();
     for (const TFormItem& item : collection.Items) {
-        HObject& made = target->Add(FKit.Make("TCollectionItem"));
+        HObject& made = target->Add(itemDef.Make(FKit, itemDef));
         for (const TFormProperty& property : item.Properties) Read(made, property, scope);
     }
 }

@@ -20,7 +20,11 @@ HWnd AddChild(HDesktop& desktop, HWnd parent, const char* className, const std::
     return desktop.CreateWindowA(params);
 }
 
-HWnd CreateBox(HDesktop& desktop, const std::shared_ptr<HNativeDialog>& dialog, const std::string& text,
+struct TBox {
+    HWnd Window, Button;
+};
+
+TBox CreateBox(HDesktop& desktop, const std::shared_ptr<HNativeDialog>& dialog, const std::string& text,
                const std::string& caption, HWnd owner) {
     constexpr int width = 320, height = 140;
     const int left = (HScreenRect.Width() - width) / 2, top = (HScreenRect.Height() - height) / 2;
@@ -37,24 +41,43 @@ HWnd CreateBox(HDesktop& desktop, const std::shared_ptr<HNativeDialog>& dialog, 
              std::make_shared<HNativeWindow>(desktop, "Static"));
     AddChild(desktop, box, "Static", "", {12, 16, 44, 48},
              std::make_shared<HNativeWindow>(desktop, "Static"));
-    AddChild(desktop, box, "Button", Ansi("确定"), {120, 76, 195, 101},
-             std::make_shared<HNativeButton>(desktop, IDOK));
-    return box;
+    const HWnd button = AddChild(desktop, box, "Button", Ansi("确定"), {120, 76, 195, 101},
+                                 std::make_shared<HNativeButton>(desktop, IDOK));
+    return {box, button};
+}
+
+/// Keys that a dialog treats itself; with one button Escape means the same as Enter.
+bool EndsBox(HDesktop& desktop, HWnd box, const TMessage& message) {
+    if (message.Number != WM_KEYDOWN) return false;
+    if (message.WParameter != VK_RETURN && message.WParameter != VK_ESCAPE) return false;
+    const HWindow* window = desktop.Find(message.Window);
+    return window && window->Top().Handle == box;
 }
 
 }  // namespace
 
 void RunMessageBox(HDesktop& desktop, const std::string& text, const std::string& caption, HWnd owner) {
     desktop.Journal().Add(HEntry::Box, "box " + caption + ": " + text);
+    const HDesktop::THandling handling(desktop);
+    desktop.CancelMode();
     const auto dialog = std::make_shared<HNativeDialog>(desktop);
-    const HWnd box = CreateBox(desktop, dialog, text, caption, owner);
+    const TBox box = CreateBox(desktop, dialog, text, caption, owner);
+    if (box.Window == 0) return;  // no room for a further window
     const bool ownerWasDisabled = desktop.EnableWindow(owner, false);
-    desktop.ShowWindow(box, true);
-    desktop.SetActiveWindow(box);
-    TMessage message;
-    while (dialog->Result() == 0 && desktop.GetMessage(message)) desktop.DispatchMessage(message);
+    desktop.ShowWindow(box.Window, true);
+    desktop.SetActiveWindow(box.Window);
+    desktop.SetFocus(box.Button);
+    while (dialog->Result() == 0 && !desktop.Quitting()) {
+        TMessage message;
+        if (!desktop.PeekAny(message))
+            desktop.WaitMessage();
+        else if (EndsBox(desktop, box.Window, message))
+            desktop.Notify(box.Window, WM_COMMAND, IDOK, 0);
+        else
+            desktop.DispatchMessage(message);
+    }
     if (!ownerWasDisabled) desktop.EnableWindow(owner, true);
-    desktop.DestroyWindow(box);
+    desktop.DestroyWindow(box.Window);
 }
 
 }  // namespace rux

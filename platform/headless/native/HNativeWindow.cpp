@@ -2,22 +2,34 @@
 
 namespace rux {
 
-bool HButtonClass::Handle(HWnd window, unsigned message, LParam lParam) {
+void HButtonClass::Release(HWnd window) {
+    FPushed = false;
+    if (FDesktop.GetCapture() == window) FDesktop.ReleaseCapture();
+}
+
+bool HButtonClass::Handle(HWnd window, unsigned message, WParam wParam, LParam lParam) {
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
             FDesktop.SetFocus(window);
-            if (!FDesktop.Find(window)) return false;
             FDesktop.SetCapture(window);
-            FPushed = true;
+            FPushed = FDesktop.GetCapture() == window;
             return false;
         case WM_CAPTURECHANGED:
             FPushed = false;
             return false;
+        case WM_CANCELMODE:
+        case WM_KILLFOCUS:
+            Release(window);
+            return false;
+        case WM_KEYDOWN:
+            if (wParam == VK_SPACE) FPushed = true;
+            return false;
+        case WM_KEYUP:
+            return wParam == VK_SPACE && std::exchange(FPushed, false);
         case WM_LBUTTONUP: {
             if (!FPushed) return false;
-            FPushed = false;
-            if (FDesktop.GetCapture() == window) FDesktop.ReleaseCapture();
+            Release(window);
             const HWindow* button = FDesktop.Find(window);
             return button && button->ClientRect().Contains(PointOfParam(lParam));
         }
@@ -27,7 +39,7 @@ bool HButtonClass::Handle(HWnd window, unsigned message, LParam lParam) {
 }
 
 LResult HNativeButton::WndProc(HWnd window, unsigned message, WParam wParam, LParam lParam) {
-    if (FClass.Handle(window, message, lParam)) {
+    if (FClass.Handle(window, message, wParam, lParam)) {
         const HWindow* button = FDesktop.Find(window);
         if (button && button->Parent)
             FDesktop.Notify(button->Parent->Handle, WM_COMMAND, FId, static_cast<LParam>(window));

@@ -25,16 +25,18 @@ class HNativeWindow : public HWindowTarget {
     std::string FClassName;
 };
 
-/// What the window class BUTTON does with the mouse: capture on down, a notification on up inside. The
-/// toolkit's buttons stand on the same class.
+/// What the window class BUTTON does with mouse and space bar: capture on down, a notification on up inside.
+/// The toolkit's buttons stand on the same class.
 class HButtonClass {
  public:
     explicit HButtonClass(HDesktop& desktop) : FDesktop(desktop) {}
     bool Pushed() const { return FPushed; }
     /// True when the message ends in a click that the parent is to be told of.
-    bool Handle(HWnd window, unsigned message, LParam lParam);
+    bool Handle(HWnd window, unsigned message, WParam wParam, LParam lParam);
 
  private:
+    void Release(HWnd window);
+
     HDesktop& FDesktop;
     bool FPushed = false;
 };

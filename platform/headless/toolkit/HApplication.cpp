@@ -6,24 +6,6 @@
 
 namespace rux {
 
-namespace {
-
-/// Control procedures stand between the queue and a dialog's own keys.
-bool UsedAsDialogKey(HToolkit& kit, const TMessage& message) {
-    if (message.Number != WM_KEYDOWN) return false;
-    HWinControl* control = kit.ControlOf(message.Window);
-    HCustomForm* form = control ? control->ParentForm() : nullptr;
-    if (!form) return false;
-    try {
-        return form->DialogKey(static_cast<unsigned>(message.WParameter), *control);
-    } catch (const std::exception& error) {
-        kit.App().HandleException(error);
-        return true;
-    }
-}
-
-}  // namespace
-
 HApplication::HApplication(HToolkit& kit, const HClassDef& def) : With(kit, def) {
     // Visible, enabled, of no size, with the application's title: so it is among the top-level windows.
     HCreateParams params;
@@ -42,53 +24,86 @@ TObject* HApplication::MainForm() {
     return FMainForm;
 }
 
-void HApplication::Dispatch(const TMessage& message) {
-    if (!UsedAsDialogKey(Kit(), message)) Kit().Desktop().DispatchMessage(message);
+bool HApplication::Terminated() {
+    return Kit().Desktop().Quitting();
+}
+
+// ------------------------------------------------------------------------------------------------ the loop
+
+bool HApplication::UsedAsDialogKey(const TMessage& message) {
+    if (message.Number != WM_KEYDOWN) return false;
+    // A native window's keys are its nearest control's.
+    HWinControl* control = nullptr;
+    for (const HWindow* w = Kit().Desktop().Find(message.Window); w && !control; w = w->Parent)
+        control = Kit().ControlOf(w->Handle);
+    HCustomForm* form = control ? control->ParentForm() : nullptr;
+    if (!form) return false;
+    bool used = false;
+    const bool told =
+        Guarded([&] { used = form->DialogKey(static_cast<unsigned>(message.WParameter), *control); });
+    return used || !told;
+}
+
+bool HApplication::ProcessMessage() {
+    HDesktop& desktop = Kit().Desktop();
+    TMessage message;
+    if (!desktop.PeekAny(message)) return false;
+    const HDesktop::THandling handling(desktop);
+    if (!UsedAsDialogKey(message)) desktop.DispatchMessage(message);
+    return true;
 }
 
 void HApplication::ProcessMessages() {
-    TMessage message;
-    while (Kit().Desktop().PeekAny(message)) Dispatch(message);
-    Kit().Desktop().EmptyGraveyard();
+    while (ProcessMessage()) {
+    }
 }
 
 void HApplication::HandleMessage() {
-    TMessage message;
-    if (!Kit().Desktop().PeekAny(message)) {
-        Idle();
-        if (!Kit().Desktop().GetMessage(message)) return;
-    }
-    Dispatch(message);
+    if (ProcessMessage()) return;
+    Idle();
+    Kit().Desktop().WaitMessage();
 }
 
 void HApplication::Idle() {
+    const HDesktop::THandling handling(Kit().Desktop());
     const std::vector<HCustomForm*> forms = Kit().Forms();
-    for (HCustomForm* form : forms) {
-        if (form->Dead() || !form->IsVisible()) continue;
-        try {
-            form->UpdateActions();
-        } catch (const std::exception& error) {
-            HandleException(error);
-        }
-    }
+    for (HCustomForm* form : forms)
+        if (!form->Dead()) Guarded([&] { form->UpdateActions(); });
 }
 
 void HApplication::Run() {
     if (FMainForm) FMainForm->Show();
-    while (!FTerminated) HandleMessage();
+    while (!Terminated()) HandleMessage();
 }
 
 void HApplication::Terminate() {
-    FTerminated = true;
     Kit().Desktop().Quit();
 }
 
+// ------------------------------------------------------------------------------------------------ errors
+
 void HApplication::HandleException(const std::exception& error) {
+    Kit().Desktop().CancelMode();
     if (dynamic_cast<const EAbort*>(&error)) return;
-    if (FOnException) {
-        FOnException(error);
+    if (!FOnException) {
+        ShowException(error);
         return;
     }
+    try {
+        // A copy: it may set another one.
+        const TExceptionHandler handler = FOnException;
+        const HDesktop::THandling handling(Kit().Desktop());
+        handler(error);
+    } catch (const std::exception& again) {
+        if (!dynamic_cast<const EAbort*>(&again)) ShowException(again);
+    }
+}
+
+void HApplication::HandleUnknown() {
+    HandleException(Exception("Unknown exception"));
+}
+
+void HApplication::ShowException(const std::exception& error) {
     std::string text = error.what();
     // A period behind anything that does not end a sentence by itself.
     if (!text.empty() && static_cast<unsigned char>(text.back()) > '.') text += '.';
@@ -96,11 +111,13 @@ void HApplication::HandleException(const std::exception& error) {
 }
 
 void HApplication::MessageBox(const std::string& text, const std::string& caption) {
-    const std::vector<HWnd> disabled = Kit().DisableTaskWindows(0);
-    const HWnd activeBefore = Kit().Desktop().GetActiveWindow();
-    RunMessageBox(Kit().Desktop(), text, caption, FHandle);
-    Kit().EnableTaskWindows(disabled);
-    if (Kit().Desktop().Find(activeBefore)) Kit().Desktop().SetActiveWindow(activeBefore);
+    HDesktop& desktop = Kit().Desktop();
+    const HWnd activeBefore = desktop.GetActiveWindow();
+    {
+        const HTaskWindowsDisabled disabled(desktop);
+        RunMessageBox(desktop, text, caption, FHandle);
+    }
+    desktop.SetActiveWindow(activeBefore);
 }
 
 LResult HApplication::WndProc(HWnd window, unsigned message, WParam wParam, LParam lParam) {
@@ -114,9 +131,9 @@ LResult HApplication::WndProc(HWnd window, unsigned message, WParam wParam, LPar
         case WM_GETTEXTLENGTH:
             return static_cast<LResult>(FTitle.size());
         case WM_CLOSE:
-            if (FMainForm) FMainForm->Close();
-            return 0;
-        case WM_DESTROY:
+            Guarded([this] {
+                if (FMainForm) FMainForm->Close();
+            });
             return 0;
         default:
             return Kit().Desktop().DefWindowProc(window, message, wParam, lParam);

@@ -38,7 +38,7 @@ void HButtonControl::HandleMessage(HMessage& message) {
 }
 
 void HButtonControl::DefaultHandler(HMessage& message) {
-    if (HandleAllocated() && FClass.Handle(Handle(), message.Number, message.L)) {
+    if (Window() && FClass.Handle(Window(), message.Number, message.W, message.L)) {
         NotifyParent(BN_CLICKED);
         return;
     }
@@ -58,10 +58,11 @@ void HButton::CNCommand(unsigned code) {
 
 bool HButton::AnswersKey(unsigned key) {
     if (key == VK_ESCAPE) return FCancel;
-    if (key != VK_RETURN) return false;
-    if (Focused()) return true;
-    const HWinControl* focused = Kit().ControlOf(Kit().Desktop().GetFocus());
-    return FDefault && !dynamic_cast<const HButton*>(focused);
+    HCustomForm* form = ParentForm();
+    if (key != VK_RETURN || !form) return false;
+    // A focused button takes the place of the default one.
+    auto* focused = dynamic_cast<HButton*>(form->ActiveControl());
+    return focused ? focused == this : FDefault;
 }
 
 void HButton::HandleMessage(HMessage& message) {
@@ -118,16 +119,39 @@ void HSpeedButton::MouseUp(HMouseButton button, TPoint point) {
     Click();
 }
 
+void HSpeedButton::HandleMessage(HMessage& message) {
+    HGraphicControl::HandleMessage(message);
+    if (message.Number == WM_LBUTTONDBLCLK && FDown && !Dead()) DblClick();
+}
+
 void HSpeedButton::SetDown(bool value) {
     if (FGroupIndex == 0) value = false;
     // The last button of a group stays down unless all may be up.
     if (FDown == value || (FDown && !FAllowAllUp)) return;
     FDown = value;
-    if (!value || !ParentControl()) return;
+    if (value) TellGroup();
+}
+
+void HSpeedButton::SetAllowAllUp(bool value) {
+    if (FAllowAllUp == value) return;
+    FAllowAllUp = value;
+    TellGroup();
+}
+
+void HSpeedButton::TellGroup() {
+    if (FGroupIndex == 0 || !ParentControl()) return;
     for (HControl* sibling : ParentControl()->GraphicControls()) {
         auto* other = dynamic_cast<HSpeedButton*>(sibling);
-        if (other && other != this && other->FGroupIndex == FGroupIndex) other->FDown = false;
+        if (!other || other == this || other->FGroupIndex != FGroupIndex) continue;
+        if (FDown) other->FDown = false;
+        other->FAllowAllUp = FAllowAllUp;
     }
+}
+
+void HSpeedButton::ActionChanged(HCustomAction& action, bool onlyDefaults) {
+    HGraphicControl::ActionChanged(action, onlyDefaults);
+    if (FSeen.Differs(action, FDown, onlyDefaults) && FGroupIndex != 0 && FAllowAllUp)
+        SetDown(action.Checked());
 }
 
 // ------------------------------------------------------------------------------------------ check boxes
@@ -160,22 +184,45 @@ void HCustomCheckBox::CNCommand(unsigned code) {
     if (code == BN_CLICKED) Toggle();
 }
 
+void HCustomCheckBox::ActionChanged(HCustomAction& action, bool onlyDefaults) {
+    With::ActionChanged(action, onlyDefaults);
+    if (FSeen.Differs(action, IsChecked(), onlyDefaults))
+        FState = action.Checked() ? HCheckBoxState::cbChecked : HCheckBoxState::cbUnchecked;
+}
+
 // ------------------------------------------------------------------------------------------ radio buttons
 
 void HRadioButton::SetChecked(bool value) {
     if (FChecked == value) return;
+    Turn(value);
+    if (value && !Loading()) Click();
+}
+
+void HRadioButton::Turn(bool value) {
     FChecked = value;
     SetTabStop(value);
-    if (!value) return;
-    if (ParentControl())
-        for (HWinControl* sibling : ParentControl()->WindowedControls())
-            if (auto* other = dynamic_cast<HRadioButton*>(sibling); other && other != this)
-                other->SetChecked(false);
-    if (!Loading()) Click();
+    if (!value || !ParentControl()) return;
+    for (HWinControl* sibling : ParentControl()->WindowedControls())
+        if (auto* other = dynamic_cast<HRadioButton*>(sibling); other && other != this && other->FChecked)
+            other->Turn(false);
 }
 
 void HRadioButton::CNCommand(unsigned code) {
     if (code == BN_CLICKED) SetChecked(true);
+    if (code == BN_DOUBLECLICKED) DblClick();
+}
+
+void HRadioButton::DefaultHandler(HMessage& message) {
+    // The window class tells of a double click and does not take it for a second click.
+    if (message.Number == WM_LBUTTONDBLCLK)
+        NotifyParent(BN_DOUBLECLICKED);
+    else
+        With::DefaultHandler(message);
+}
+
+void HRadioButton::ActionChanged(HCustomAction& action, bool onlyDefaults) {
+    With::ActionChanged(action, onlyDefaults);
+    if (FSeen.Differs(action, FChecked, onlyDefaults)) Turn(action.Checked());
 }
 
 }  // namespace rux

@@ -78,14 +78,19 @@ class HSpeedButton : public HGraphicControl {
     void SetDown(bool value);
     int GroupIndex() const { return FGroupIndex; }
     void SetGroupIndex(int value) { FGroupIndex = value; }
+    /// The whole group's.
     bool AllowAllUp() const { return FAllowAllUp; }
-    void SetAllowAllUp(bool value) { FAllowAllUp = value; }
+    void SetAllowAllUp(bool value);
+    void HandleMessage(HMessage& message) override;
+    void ActionChanged(HCustomAction& action, bool onlyDefaults) override;
 
  protected:
     void MouseDown(HMouseButton button, TPoint point) override;
     void MouseUp(HMouseButton button, TPoint point) override;
 
  private:
+    void TellGroup();
+    HSeenState FSeen;
     bool FDown = false, FPressed = false, FAllowAllUp = false;
     int FGroupIndex = 0;
 };
@@ -105,12 +110,15 @@ class HCustomCheckBox : public With<HButtonControl, TCustomCheckBox> {
     void PutChecked(bool value) { SetChecked(value); }
     bool AllowGrayed() const { return FAllowGrayed; }
     void SetAllowGrayed(bool value) { FAllowGrayed = value; }
+    /// The action's state fires nothing.
+    void ActionChanged(HCustomAction& action, bool onlyDefaults) override;
 
  protected:
     void CNCommand(unsigned code) override;
 
  private:
     void Toggle();
+    HSeenState FSeen;
     HCheckBoxState FState = HCheckBoxState::cbUnchecked;
     bool FAllowGrayed = false;
 };
@@ -122,11 +130,17 @@ class HRadioButton : public With<HButtonControl, TRadioButton> {
     bool IsChecked() const { return FChecked; }
     /// Turns its siblings off; OnClick fires when it becomes checked.
     void SetChecked(bool value);
+    /// The action's state fires nothing.
+    void ActionChanged(HCustomAction& action, bool onlyDefaults) override;
 
  protected:
     void CNCommand(unsigned code) override;
+    void DefaultHandler(HMessage& message) override;
 
  private:
+    static constexpr unsigned BN_DOUBLECLICKED = 5;
+    void Turn(bool value);
+    HSeenState FSeen;
     bool FChecked = false;
 };
 

@@ -49,10 +49,22 @@ const HClassDef& HClasses::Add(std::string_view name, std::string_view parentNam
     HClassDef def;
     def.Class = &Define(name, parent ? parent->Class : nullptr);
     def.Parent = parent;
+    def.Item = parent ? parent->Item : nullptr;
     def.Make = make || !parent ? make : parent->Make;
     def.Props = parent && props.empty()
                     ? parent->Props
                     : std::make_shared<HPropTable>(parent ? parent->Props.get() : nullptr, std::move(props));
+    return Keep(std::move(def));
+}
+
+const HClassDef& HClasses::AddCollection(std::string_view name, std::string_view itemName) {
+    const HClassDef* item = FindDef(itemName);
+    Assert(item, "A collection needs the class of its items first");
+    const HClassDef* parent = FindDef("TCollection");
+    HClassDef def = *parent;
+    def.Class = &Define(name, parent->Class);
+    def.Parent = parent;
+    def.Item = item;
     return Keep(std::move(def));
 }
 

@@ -22,6 +22,8 @@ struct HClassDef {
     /// nil for classes that no form file can name.
     HMaker Make = nullptr;
     std::shared_ptr<const HPropTable> Props;
+    /// Collections: class of their items.
+    const HClassDef* Item = nullptr;
     /// False for classes that only a form file or a class file brought up.
     bool Known = true;
 };
@@ -41,6 +43,8 @@ class HClasses final : public TClassTable {
     /// parent's is taken, without properties of its own the parent's table.
     const HClassDef& Add(std::string_view name, std::string_view parent, HMaker make = nullptr,
                          std::vector<HPropDef> props = {});
+    /// A collection of items of a class that must have been added before.
+    const HClassDef& AddCollection(std::string_view name, std::string_view item);
     /// A class that the toolkit does not know, served as its parent is.
     const HClassDef& AddUnknown(std::string_view name, const HClassDef& parent);
     /// nil if there is none.

@@ -1,6 +1,8 @@
 #include "platform/headless/toolkit/HComponent.h"
 
 #include <algorithm>
+#include <iterator>
+#include <unordered_set>
 
 #include "platform/headless/toolkit/HToolkit.h"
 #include "rtl/Text.h"
@@ -25,33 +27,54 @@ HComponent* HComponent::FindComponent(std::string_view name) const {
     return nullptr;
 }
 
-void HComponent::Free() {
-    if (Dead()) return;
-    EndAll();
-    if (!FOwner) return;
-    auto& row = FOwner->FComponents;
-    const auto place =
-        std::find_if(row.rbegin(), row.rend(), [this](const auto& c) { return c.get() == this; });
-    if (place == row.rend()) return;
-    // Frames of the call that ends this component may still stand in its methods.
-    std::shared_ptr<HComponent> self = std::move(*place);
-    row.erase(std::next(place).base());
-    Kit().Desktop().Bury(std::move(self));
+void HComponent::AddParts(std::vector<HComponent*>& parts) const {
+    for (const auto& component : FComponents) parts.push_back(component.get());
 }
 
-void HComponent::EndAll() {
-    // Owners may be nested deeper than the stack allows to recurse.
+void HComponent::Free() {
+    if (FDestroying) return;
+    const HDesktop::THandling handling(Kit().Desktop());
+    FDestroying = true;
+    // Parts may be nested deeper than the stack allows to recurse, and handlers may make and free some on the
+    // way.
     std::vector<HComponent*> all{this};
-    for (std::size_t i = 0; i < all.size(); ++i)
-        for (const auto& component : all[i]->FComponents) all.push_back(component.get());
-    for (std::size_t i = 0; i < all.size(); ++i) all[i]->BeforeDestruction();
-    for (auto step = all.rbegin(); step != all.rend(); ++step) {
-        HComponent& component = **step;
-        if (component.Dead()) continue;
-        component.Detach();
-        component.MarkDead();
-        Kit().Forget(component);
+    std::vector<HComponent*> parts;
+    const auto addPartsOf = [&](const HComponent& component) {
+        parts.clear();
+        component.AddParts(parts);
+        for (HComponent* part : parts)
+            if (!std::exchange(part->FDestroying, true)) all.push_back(part);
+    };
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i]->BeforeDestruction();
+        addPartsOf(*all[i]);
     }
+    for (std::size_t i = all.size(); i-- > 0;) all[i]->End();
+    std::unordered_set<HComponent*> owners;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        if (!all[i]->Dead()) all[i]->End();  // came up while the others went
+        addPartsOf(*all[i]);
+        owners.insert(all[i]);
+        if (all[i]->FOwner) owners.insert(all[i]->FOwner);
+    }
+    // One flat row: a chain of owners is not freed by recursion either. Frames of calls that run in these
+    // components may still be on the stack.
+    const auto grave = std::make_shared<std::vector<std::unique_ptr<HComponent>>>();
+    for (HComponent* owner : owners) owner->Bury(*grave);
+    Kit().Desktop().Bury(grave);
+}
+
+void HComponent::End() {
+    Detach();
+    MarkDead();
+    Kit().Forget(*this);
+}
+
+void HComponent::Bury(std::vector<std::unique_ptr<HComponent>>& grave) {
+    const auto alive = [](const std::unique_ptr<HComponent>& component) { return !component->Dead(); };
+    const auto dead = std::stable_partition(FComponents.begin(), FComponents.end(), alive);
+    std::move(dead, FComponents.end(), std::back_inserter(grave));
+    FComponents.erase(dead, FComponents.end());
 }
 
 const HComponent::TEvent* HComponent::FindEvent(TName event) const {
@@ -67,7 +90,10 @@ HComponent::TEvent& HComponent::EventSlot(TName event) {
 }
 
 void HComponent::SetEvent(TName event, std::string method) {
-    EventSlot(event).Method = std::move(method);
+    if (method.empty())
+        std::erase_if(FEvents, [&](const TEvent& row) { return row.Name == event; });
+    else
+        EventSlot(event).Method = std::move(method);
 }
 
 void HComponent::SetHandler(std::string_view event, HHandler handler) {
@@ -80,7 +106,9 @@ std::string HComponent::MethodOf(TName event) const {
 }
 
 void HComponent::DefineMethod(std::string_view name, HHandler handler) {
-    FMethods.emplace_back(InternName(name), std::move(handler));
+    const TName key = InternName(name);
+    std::erase_if(FMethods, [&](const auto& row) { return row.first == key; });
+    FMethods.emplace_back(key, std::move(handler));
 }
 
 const HHandler* HComponent::FindMethod(TName method) const {
@@ -113,8 +141,15 @@ bool HComponent::Fire(TName event, HEventArgs& args) {
     if (journal.Wants(HEntry::Event))
         journal.Add(HEntry::Event, "event " + Path() + " " + NameText(event) + " " + row->Method);
     // A copy: the handler may assign another one, or end this component.
-    if (const HHandler code = CodeOf(*row)) code(*this, args);
+    if (const HHandler code = CodeOf(*row)) {
+        const HDesktop::THandling handling(Kit().Desktop());
+        code(*this, args);
+    }
     return true;
+}
+
+void HComponent::FireGuarded(TName event) {
+    if (!FLoading) Kit().App().Guarded([&] { Fire(event); });
 }
 
 bool HComponent::GetProp(TName name, TPropValue& value) {

@@ -37,7 +37,7 @@ class HComponent : public With<HObject, TComponent> {
     std::string Path() const;
 
     /// What a form file nests the component in, where that is not a control's parent; nil for none.
-    HComponent* ParentComponent() const { return FParentComponent; }
+    HComponent* ParentComponent() const { return FParentComponent.Get(); }
     void SetParentComponent(HComponent* parent) { FParentComponent = parent; }
 
     /// Takes a component over; it dies with this one at the latest.
@@ -46,15 +46,19 @@ class HComponent : public With<HObject, TComponent> {
     /// Compared without case; nil if there is none.
     HComponent* FindComponent(std::string_view name) const;
 
-    /// Ends the component and all it owns. Its storage stays until no message is being handled any more.
+    /// Ends the component and what goes with it: all it owns, and the controls and items on it. From then on
+    /// they are dead; their storage stays until nothing is being handled any more.
     void Free();
+    /// Free has begun.
+    bool Destroying() const { return FDestroying; }
     /// While a form file is being read nothing fires.
     bool Loading() const { return FLoading; }
     void BeginLoading() { FLoading = true; }
     /// Called once all properties of the form file are in.
     virtual void Loaded() { FLoading = false; }
 
-    // Events. A form file names a method; the code is looked up at the owner when the event fires.
+    // Events. A form file names a method; the code is looked up at the owner when the event fires. Without a
+    // method the event is not assigned any more.
     void SetEvent(TName event, std::string method);
     /// Code set at run time.
     void SetHandler(std::string_view event, HHandler handler);
@@ -66,15 +70,21 @@ class HComponent : public With<HObject, TComponent> {
     /// Records the event and runs its code, if both are there. False when the event is not assigned.
     bool Fire(TName event, HEventArgs& args);
     bool Fire(TName event);
-    /// Gives a method of this form (frame, data module) its code.
+    /// Fires an event of the component's life, unless it is still being loaded: what its code raises is
+    /// reported.
+    void FireGuarded(TName event);
+    /// Gives a method of this form (frame, data module) its code; the last one counts.
     void DefineMethod(std::string_view name, HHandler handler);
     /// Also answers for events.
     bool GetProp(TName name, TPropValue& value) override;
 
  protected:
-    /// Runs while the component and all it owns are still whole; owners first.
+    /// Runs while the component and all that goes with it are still whole; owners and parents first. Raises
+    /// nothing.
     virtual void BeforeDestruction() {}
-    /// Takes the component out of what it is part of; owned components first.
+    /// Adds what ends with this component.
+    virtual void AddParts(std::vector<HComponent*>& parts) const;
+    /// Takes the component out of what it is part of; the parts go first.
     virtual void Detach() {}
 
  private:
@@ -87,12 +97,15 @@ class HComponent : public With<HObject, TComponent> {
     TEvent& EventSlot(TName event);
     const HHandler* FindMethod(TName method) const;
     HHandler CodeOf(const TEvent& event) const;
-    void EndAll();
+    void End();
+    /// Moves the owned components that are dead to `grave`.
+    void Bury(std::vector<std::unique_ptr<HComponent>>& grave);
 
     bool FLoading = false;
+    bool FDestroying = false;
     std::string FName;
     HComponent* FOwner = nullptr;
-    HComponent* FParentComponent = nullptr;
+    HRef<HComponent> FParentComponent;
     std::vector<std::unique_ptr<HComponent>> FComponents;
     std::vector<TEvent> FEvents;
     std::vector<std::pair<TName, HHandler>> FMethods;

@@ -83,9 +83,13 @@ void HPageControl::Arrange() {
 
 // ------------------------------------------------------------------------------------------ items
 
-HItemsControl::HItemsControl(HToolkit& kit, const HClassDef& def) : HWinControl(kit, def) {
+HItemsControl::HItemsControl(HToolkit& kit, const HClassDef& def, std::string_view stringsClass)
+    : HWinControl(kit, def) {
     FTabStop = true;
-    auto items = std::make_unique<HStrings>(kit, *kit.ClassDefs().FindDef("TStringList"));
+    // What a click is, the kind of control says by itself.
+    FClickEvents = false;
+    FCaptureMouse = false;
+    auto items = std::make_unique<HStrings>(kit, *kit.ClassDefs().FindDef(stringsClass));
     items->SetOnChange([this] { ItemsChanged(); });
     FItems = items.get();
     Adopt(std::move(items));
@@ -113,16 +117,34 @@ void HRadioGroup::ItemsChanged() {
     for (const std::string& line : Items().Lines()) {
         auto button = Kit().MakeAs<HRadioButton>("TGroupButton");
         button->SetText(line);
+        button->SetEnabled(IsEnabled());
         HRadioButton& kept = static_cast<HRadioButton&>(Own(std::move(button)));
         kept.SetParent(this);
         FButtons.push_back(&kept);
         kept.SetHandler("OnClick", [this, &kept](HObject&, HEventArgs&) {
+            if (FUpdating) return;
             const auto place = std::find(FButtons.begin(), FButtons.end(), &kept);
             HItemsControl::SetItemIndex(static_cast<int>(place - FButtons.begin()));
             Fire(Kit().Names().OnClick);
         });
     }
     Arrange();
+    if (Loading()) return;
+    HItemsControl::SetItemIndex(std::min(ItemIndex(), static_cast<int>(FButtons.size()) - 1));
+    FUpdating = true;
+    ShowItemIndex();
+    FUpdating = false;
+}
+
+void HRadioGroup::Loaded() {
+    FUpdating = true;
+    HItemsControl::Loaded();
+    FUpdating = false;
+}
+
+void HRadioGroup::SetEnabled(bool value) {
+    HItemsControl::SetEnabled(value);
+    for (HComponent* button : FButtons) static_cast<HRadioButton*>(button)->SetEnabled(value);
 }
 
 void HRadioGroup::SetColumns(int value) {
@@ -137,6 +159,10 @@ void HRadioGroup::SetBounds(const TRect& bounds) {
 
 void HRadioGroup::SetItemIndex(int value) {
     HItemsControl::SetItemIndex(value);
+    ShowItemIndex();
+}
+
+void HRadioGroup::ShowItemIndex() {
     const int index = ItemIndex();
     for (std::size_t i = 0; i < FButtons.size(); ++i)
         static_cast<HRadioButton*>(FButtons[i])->SetChecked(static_cast<int>(i) == index);

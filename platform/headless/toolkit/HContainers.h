@@ -50,7 +50,8 @@ class HPageControl : public HWinControl {
 /// Controls over a list of items of which one may be chosen: list boxes, combo boxes, radio groups.
 class HItemsControl : public HWinControl {
  public:
-    HItemsControl(HToolkit& kit, const HClassDef& def);
+    /// The class of the list of items differs by control.
+    HItemsControl(HToolkit& kit, const HClassDef& def, std::string_view stringsClass = "TStringList");
     HObject* ItemsObject() const { return FItems; }
     HStrings& Items() const { return *FItems; }
     int ItemIndex() const { return FItemIndex; }
@@ -72,14 +73,19 @@ class HRadioGroup : public HItemsControl {
     HRadioGroup(HToolkit& kit, const HClassDef& def);
     int Columns() const { return FColumns; }
     void SetColumns(int value);
+    /// Fires OnClick when it changes, as a click does; not while a form file is read.
     void SetItemIndex(int value) override;
     void SetBounds(const TRect& bounds) override;
+    void SetEnabled(bool value) override;
+    void Loaded() override;
 
  protected:
     void ItemsChanged() override;
 
  private:
     void Arrange();
+    void ShowItemIndex();
+    bool FUpdating = false;
     int FColumns = 1;
     std::vector<HComponent*> FButtons;
 };

@@ -1,10 +1,21 @@
 #include "platform/headless/toolkit/HControl.h"
 
+#include <algorithm>
+
+#include "platform/headless/HLimits.h"
 #include "platform/headless/toolkit/HForm.h"
 #include "platform/headless/toolkit/HMenus.h"
 #include "platform/headless/toolkit/HToolkit.h"
 
 namespace rux {
+
+namespace {
+
+std::int32_t Bound(std::int64_t value) {
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, -HCoordLimit, HCoordLimit));
+}
+
+}  // namespace
 
 template <>
 const HEnumInfo& HEnumOf<HAlign>() {
@@ -23,8 +34,18 @@ TObject* HControl::Parent() {
 }
 
 TRect HControl::ScreenRect() {
-    const TPoint origin = ClientOrigin();
+    const TPoint origin = HControl::ClientOrigin();
     return {origin.X, origin.Y, origin.X + Width(), origin.Y + Height()};
+}
+
+void HControl::SetPlace(int left, int top, int width, int height) {
+    SetBounds({Bound(left), Bound(top), Bound(left) + Bound(width), Bound(top) + Bound(height)});
+}
+
+void HControl::SetBounds(const TRect& bounds) {
+    const std::int32_t left = Bound(bounds.Left), top = Bound(bounds.Top);
+    FBounds = {left, top, left + Bound(std::int64_t{bounds.Right} - bounds.Left),
+               top + Bound(std::int64_t{bounds.Bottom} - bounds.Top)};
 }
 
 void HControl::SetParent(HWinControl* parent) {
@@ -41,70 +62,92 @@ HCustomForm* HControl::ParentForm() {
 }
 
 void HControl::Detach() {
-    if (Kit().CaptureControl() == this) Kit().SetCaptureControl(nullptr);
+    Kit().ForgetCapture(*this);
     SetAction(nullptr);
     SetParent(nullptr);
 }
 
-// ------------------------------------------------------------------------------------------------ actions
-
-HObject* HControl::ActionObject() const {
-    return FAction;
+bool HControl::IsShowingOn(const HCustomForm& form) const {
+    for (const HControl* step = this; step; step = step->FParent) {
+        if (step == &form) return true;
+        if (!step->FVisible) return false;
+    }
+    return false;
 }
 
+// ------------------------------------------------------------------------------------------------ actions
+
 void HControl::SetAction(HObject* action) {
+    auto* next = dynamic_cast<HCustomAction*>(action);
+    if (next == FAction) return;
     if (FAction) FAction->RemoveClient(*this);
-    FAction = dynamic_cast<HCustomAction*>(action);
+    FAction = next;
+    Kit().ActionLinked(*this, FAction != nullptr);
     if (!FAction) return;
     FAction->AddClient(*this);
-    ActionChanged(*FAction, true);
+    ActionChanged(*FAction, FAction->Loading());
+}
+
+void HControl::ActionGone() {
+    FAction = nullptr;
+    Kit().ActionLinked(*this, false);
 }
 
 void HControl::ActionChanged(HCustomAction& action, bool onlyDefaults) {
-    if (!onlyDefaults || FText.empty() || FText == Name()) SetText(action.Caption());
-    if (!onlyDefaults || FEnabled) SetEnabled(action.Enabled());
-    if (!onlyDefaults || FVisible) SetVisible(action.Visible());
-    const TPropValue* hint = Stored(Kit().Names().Hint);
-    if (!onlyDefaults || !hint || hint->Text.empty()) Store(Kit().Names().Hint, HStringValue(action.Hint()));
-}
-
-void HControl::Loaded() {
-    With::Loaded();
-    // The action may have been read after the control.
-    if (!FAction) return;
-    ActionChanged(*FAction, true);
-    if (HCustomForm* form = ParentForm()) form->AddActionClient(*this);
+    const TName hintName = Kit().Names().Hint;
+    const TPropValue* stored = Stored(hintName);
+    const std::string hint = stored ? stored->Text : std::string();
+    const bool plain = FText.empty() || FText == Name();
+    const auto text = action.Followed(&HActionState::Caption, FText, plain, onlyDefaults);
+    const bool enabled = action.Followed(&HActionState::Enabled, FEnabled, FEnabled, onlyDefaults);
+    const bool visible = action.Followed(&HActionState::Visible, FVisible, FVisible, onlyDefaults);
+    Store(hintName, HStringValue(action.Followed(&HActionState::Hint, hint, hint.empty(), onlyDefaults)));
+    if (text != FText) SetText(text);
+    if (enabled != FEnabled) SetEnabled(enabled);
+    if (visible != FVisible) SetVisible(visible);
 }
 
 void HControl::Click() {
     const TName onClick = Kit().Names().OnClick;
+    HCustomAction* action = Action();
     const bool ownHandler =
-        Assigned(onClick) && (!FAction || MethodOf(onClick) != FAction->MethodOf(Kit().Names().OnExecute));
+        Assigned(onClick) && (!action || MethodOf(onClick) != action->MethodOf(Kit().Names().OnExecute));
     if (ownHandler)
         Fire(onClick);
-    else if (FAction)
-        FAction->Execute();
+    else if (action)
+        action->Execute();
 }
 
 void HControl::CallOnClick() {
     if (Fire(Kit().Names().OnClick)) return;
     // A linked control's OnClick field holds the action's OnExecute.
-    if (!FAction || !FAction->FireExecute()) RaiseNilAccess();
+    if (!Action() || !Action()->FireExecute()) RaiseNilAccess();
 }
 
 // ------------------------------------------------------------------------------------------------ mouse
 
 LResult HControl::Perform(unsigned number, WParam wParam, LParam lParam) {
     HMessage message{number, wParam, lParam};
-    HandleMessage(message);
+    Receive(message);
     return message.Result;
 }
 
-void HControl::HandleMessage(HMessage& message) {
-    unsigned number = message.Number;
+void HControl::Receive(HMessage& message) {
+    unsigned& number = message.Number;
     if (!FDoubleClicks && (number == WM_LBUTTONDBLCLK || number == WM_RBUTTONDBLCLK))
         number -= WM_LBUTTONDBLCLK - WM_LBUTTONDOWN;
-    switch (number) {
+    if (number == WM_LBUTTONDOWN || number == WM_LBUTTONDBLCLK) FLeftDown = true;
+    if (number == WM_LBUTTONUP) FLeftDown = false;
+    HandleMessage(message);
+}
+
+void HControl::HandleMessage(HMessage& message) {
+    switch (message.Number) {
+        case WM_MOUSEMOVE: {
+            HEventArgs args{.Point = message.Point()};
+            Fire(Kit().Names().OnMouseMove, args);
+            break;
+        }
         case WM_LBUTTONDOWN:
             ButtonDown(HMouseButton::Left, message, false);
             break;
@@ -122,7 +165,7 @@ void HControl::HandleMessage(HMessage& message) {
             ButtonUp(HMouseButton::Right, message);
             break;
         case WM_CANCELMODE:
-            SetMouseCapture(false);
+            CancelMouse();
             break;
         default:
             break;
@@ -145,11 +188,19 @@ void HControl::ButtonUp(HMouseButton button, HMessage& message) {
         if (FCaptureMouse) SetMouseCapture(false);
         const bool clicked = std::exchange(FClicked, false);
         // A button let go outside is no click.
-        if (clicked && FClickEvents && ClientRect().Contains(point)) Click();
+        if (clicked && ClientRect().Contains(point)) Click();
         if (Dead()) return;
     }
     MouseUp(button, point);
     if (button == HMouseButton::Right && !Dead()) ShowContextMenu(point);
+}
+
+void HControl::CancelMouse() {
+    FClicked = false;
+    if (Kit().CaptureControl() != this) return;
+    SetMouseCapture(false);
+    // As if the button were let go outside.
+    if (FLeftDown) Perform(WM_LBUTTONUP, 0, MakePointParam({-1, -1}));
 }
 
 void HControl::SetMouseCapture(bool value) {
@@ -172,14 +223,23 @@ void HControl::DblClick() {
 }
 
 void HControl::ShowContextMenu(TPoint point) {
-    HEventArgs args{.Point = point};
-    if (Fire(Kit().Names().OnContextPopup, args) && !args.Allow) return;
-    for (HControl* step = this; step; step = step->FParent) {
-        auto* menu = dynamic_cast<HPopupMenu*>(step->FPopupMenu);
-        if (!menu) continue;
-        menu->Popup();
-        return;
+    const TPoint origin = ClientOrigin(), screen{origin.X + point.X, origin.Y + point.Y};
+    // What a control does not answer goes on to its parent.
+    for (HControl* step = this; step && !step->Dead();) {
+        HControl* next = step->FParent;
+        if (step->AnswerContextMenu(screen)) return;
+        step = next;
     }
+}
+
+bool HControl::AnswerContextMenu(TPoint screen) {
+    const TPoint origin = ClientOrigin(), point{screen.X - origin.X, screen.Y - origin.Y};
+    if (!ClientRect().Contains(point)) return false;
+    HEventArgs args{.Point = point};
+    if (Fire(Kit().Names().OnContextPopup, args) && !args.Allow) return true;
+    auto* menu = Dead() ? nullptr : dynamic_cast<HPopupMenu*>(FPopupMenu.Get());
+    if (menu) menu->Popup();
+    return menu || Dead();
 }
 
 }  // namespace rux

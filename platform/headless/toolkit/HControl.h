@@ -39,7 +39,7 @@ class HControl : public With<HComponent, TControl>, public HActionClient {
     TPoint ClientOrigin() override;
     TObject* Parent() override;
     std::string Text() override { return FText; }
-    TObject* PopupMenu() override { return FPopupMenu; }
+    TObject* PopupMenu() override { return FPopupMenu.Get(); }
     void Click() override;
     void CallOnClick() override;
 
@@ -47,11 +47,12 @@ class HControl : public With<HComponent, TControl>, public HActionClient {
     int Top() const { return FBounds.Top; }
     int Width() const { return FBounds.Width(); }
     int Height() const { return FBounds.Height(); }
-    void SetLeft(int value) { SetBounds({value, Top(), value + Width(), Top() + Height()}); }
-    void SetTop(int value) { SetBounds({Left(), value, Left() + Width(), value + Height()}); }
-    void SetWidth(int value) { SetBounds({Left(), Top(), Left() + value, Top() + Height()}); }
-    void SetHeight(int value) { SetBounds({Left(), Top(), Left() + Width(), Top() + value}); }
-    virtual void SetBounds(const TRect& bounds) { FBounds = bounds; }
+    void SetLeft(int value) { SetPlace(value, Top(), Width(), Height()); }
+    void SetTop(int value) { SetPlace(Left(), value, Width(), Height()); }
+    void SetWidth(int value) { SetPlace(Left(), Top(), value, Height()); }
+    void SetHeight(int value) { SetPlace(Left(), Top(), Width(), value); }
+    /// Position and size are kept within HCoordLimit.
+    virtual void SetBounds(const TRect& bounds);
 
     bool IsVisible() const { return FVisible; }
     virtual void SetVisible(bool value) { FVisible = value; }
@@ -62,31 +63,36 @@ class HControl : public With<HComponent, TControl>, public HActionClient {
     HWinControl* ParentControl() const { return FParent; }
     virtual void SetParent(HWinControl* parent);
     virtual bool IsWindowed() const { return false; }
-    /// The form, frame or data module's form that the control stands on; nil for none.
+    /// The form that the control stands on; nil for none.
     HCustomForm* ParentForm();
+    /// The control stands on that form, and it and all between them are visible.
+    bool IsShowingOn(const HCustomForm& form) const;
     HAlign Align() const { return FAlign; }
     void SetAlign(HAlign value) { FAlign = value; }
-    HObject* PopupMenuObject() const { return FPopupMenu; }
+    HObject* PopupMenuObject() const { return FPopupMenu.Get(); }
     void SetPopupMenu(HObject* menu) { FPopupMenu = menu; }
-    HObject* ActionObject() const;
-    void SetAction(HObject* action);
     HCustomAction* Action() const { return FAction; }
+    HObject* ActionObject() const { return FAction; }
+    void SetAction(HObject* action);
     void ActionChanged(HCustomAction& action, bool onlyDefaults) override;
-    void ActionGone() override { FAction = nullptr; }
+    void ActionGone() override;
     /// Rectangle on the screen, frame included.
     virtual TRect ScreenRect();
 
     /// Handles a message directly, without the window system.
     LResult Perform(unsigned message, WParam wParam, LParam lParam);
     virtual void HandleMessage(HMessage& message);
-    void Loaded() override;
 
  protected:
+    /// Where every message enters the control.
+    void Receive(HMessage& message);
     /// What the kind of control does by itself; set by constructors.
     bool FClickEvents = true;
     bool FCaptureMouse = true;
     bool FDoubleClicks = true;
 
+    /// The left button went down on the control and is not up again.
+    bool LeftButtonDown() const { return FLeftDown; }
     void SetMouseCapture(bool value);
     virtual void MouseDown(HMouseButton button, TPoint point);
     virtual void MouseUp(HMouseButton button, TPoint point);
@@ -96,16 +102,20 @@ class HControl : public With<HComponent, TControl>, public HActionClient {
     std::string FText;
 
  private:
+    void SetPlace(int left, int top, int width, int height);
     void ButtonDown(HMouseButton button, HMessage& message, bool isDouble);
     void ButtonUp(HMouseButton button, HMessage& message);
+    void CancelMouse();
+    bool AnswerContextMenu(TPoint screen);
 
     TRect FBounds;
     bool FVisible = true;
     bool FEnabled = true;
     bool FClicked = false;
+    bool FLeftDown = false;
     HAlign FAlign = HAlign::alNone;
     HWinControl* FParent = nullptr;
-    HObject* FPopupMenu = nullptr;
+    HRef<HObject> FPopupMenu;
     HCustomAction* FAction = nullptr;
 };
 

@@ -11,6 +11,7 @@ namespace rux {
 
 HCustomEdit::HCustomEdit(HToolkit& kit, const HClassDef& def) : With(kit, def) {
     FTabStop = true;
+    FCaptureMouse = false;
 }
 
 HInsets HCustomEdit::Insets() const {
@@ -20,14 +21,21 @@ HInsets HCustomEdit::Insets() const {
 void HCustomEdit::SetText(const std::string& text) {
     if (FText == text) return;
     FText = text;
-    FCaret = 0;
+    FSelStart = FCaret = 0;
     if (!Loading()) Fire(Kit().Names().OnChange);
 }
 
 void HCustomEdit::DefaultHandler(HMessage& message) {
     switch (message.Number) {
         case WM_LBUTTONDOWN:
-            Kit().Desktop().SetFocus(Handle());
+        case WM_LBUTTONDBLCLK:
+            // Without a font to measure by: edits are wider than their text, so a click lands behind it.
+            FSelStart = FCaret = FText.size();
+            Kit().Desktop().SetCapture(Window());
+            Kit().Desktop().SetFocus(Window());
+            return;
+        case WM_LBUTTONUP:
+            if (Kit().Desktop().GetCapture() == Window()) Kit().Desktop().ReleaseCapture();
             return;
         case WM_CHAR:
             if (!FReadOnly) TypeCharacter(static_cast<char>(message.W));
@@ -44,34 +52,51 @@ void HCustomEdit::TypeCharacter(char character) {
         Insert(std::string(1, character));
 }
 
+bool HCustomEdit::SelectsOnEnter() {
+    TPropValue value;
+    return !GetProp(FindName("AutoSelect"), value) || value.Ordinal != 0;
+}
+
+void HCustomEdit::DoEnter() {
+    if (SelectsOnEnter() && !LeftButtonDown()) {
+        FSelStart = 0;
+        FCaret = FText.size();
+    }
+    With::DoEnter();
+}
+
 void HCustomEdit::Insert(const std::string& text) {
-    if (FMaxLength > 0 && FText.size() + text.size() > static_cast<std::size_t>(FMaxLength)) return;
-    const std::size_t caret = std::min(FCaret, FText.size());
-    FText.insert(caret, text);
-    FCaret = caret + text.size();
+    const std::size_t start = std::min(FSelStart, FText.size()), end = std::min(FCaret, FText.size());
+    const std::size_t rest = FText.size() - (end - start);
+    if (FMaxLength > 0 && rest + text.size() > static_cast<std::size_t>(FMaxLength)) return;
+    FText.replace(start, end - start, text);
+    FSelStart = FCaret = start + text.size();
     Fire(Kit().Names().OnChange);
 }
 
 void HCustomEdit::DeleteBack() {
-    const std::size_t caret = std::min(FCaret, FText.size());
-    // The start of the character before the caret is found by stepping from the front.
-    std::size_t start = 0;
-    for (TTextCursor at(FText); !at.AtEnd() && at.Pos() < caret; at.Next()) start = at.Pos();
-    if (start >= caret) return;
-    FText.erase(start, caret - start);
-    FCaret = start;
+    const std::size_t end = std::min(FCaret, FText.size());
+    std::size_t start = std::min(FSelStart, end);
+    if (start == end) {
+        // The start of the character before the caret is found by stepping from the front.
+        for (TTextCursor at(FText); !at.AtEnd() && at.Pos() < end; at.Next()) start = at.Pos();
+        if (end == 0) return;
+    }
+    FText.erase(start, end - start);
+    FSelStart = FCaret = start;
     Fire(Kit().Names().OnChange);
 }
 
-HCustomMemo::HCustomMemo(HToolkit& kit, const HClassDef& def) : HCustomEdit(kit, def) {
-    auto lines = std::make_unique<HTextLines>(kit, *kit.ClassDefs().FindDef("TMemoStrings"));
+HCustomMemo::HCustomMemo(HToolkit& kit, const HClassDef& def, std::string_view stringsClass)
+    : HCustomEdit(kit, def) {
+    auto lines = std::make_unique<HTextLines>(kit, *kit.ClassDefs().FindDef(stringsClass));
     lines->Attach([this] { return FText; }, [this](std::string text) { SetText(text); });
     FLines = lines.get();
     Adopt(std::move(lines));
 }
 
 bool HCustomMemo::WantsKey(unsigned key) {
-    return (key == VK_RETURN && FWantReturns) || (key == VK_TAB && FWantTabs);
+    return ((key == VK_RETURN || key == VK_ESCAPE) && FWantReturns) || (key == VK_TAB && FWantTabs);
 }
 
 void HCustomMemo::TypeCharacter(char character) {
@@ -84,6 +109,14 @@ void HCustomMemo::TypeCharacter(char character) {
 HDateTimePicker::HDateTimePicker(HToolkit& kit, const HClassDef& def)
     : With(kit, def), FValue(kit.Clock().Now()) {
     FTabStop = true;
+}
+
+void HDateTimePicker::SetDateValue(double value) {
+    FValue = std::trunc(value) + (FValue - std::trunc(FValue));
+}
+
+void HDateTimePicker::SetTimeValue(double value) {
+    FValue = std::trunc(FValue) + (value - std::trunc(value));
 }
 
 TDateTime HDateTimePicker::Date() {

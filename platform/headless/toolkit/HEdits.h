@@ -16,10 +16,12 @@ class HCustomEdit : public With<HWinControl, TCustomEdit> {
     void SetReadOnly(bool value) { FReadOnly = value; }
     int MaxLength() const { return FMaxLength; }
     void SetMaxLength(int value) { FMaxLength = value; }
-    bool WantsKey(unsigned) override { return false; }
+    /// Selects the whole text, so that typing replaces it, unless a click brought the focus.
+    void DoEnter() override;
 
  protected:
     void DefaultHandler(HMessage& message) override;
+    virtual bool SelectsOnEnter();
     HInsets Insets() const override;
     /// Puts a typed character where the caret stands.
     virtual void TypeCharacter(char character);
@@ -29,12 +31,13 @@ class HCustomEdit : public With<HWinControl, TCustomEdit> {
     void DeleteBack();
     bool FReadOnly = false;
     int FMaxLength = 0;
-    std::size_t FCaret = 0;
+    /// The selection; the caret stands at its end.
+    std::size_t FSelStart = 0, FCaret = 0;
 };
 
 class HCustomMemo : public HCustomEdit {
  public:
-    HCustomMemo(HToolkit& kit, const HClassDef& def);
+    HCustomMemo(HToolkit& kit, const HClassDef& def, std::string_view stringsClass = "TMemoStrings");
     HObject* Lines() const { return FLines; }
     bool WantReturns() const { return FWantReturns; }
     void SetWantReturns(bool value) { FWantReturns = value; }
@@ -43,6 +46,7 @@ class HCustomMemo : public HCustomEdit {
     bool WantsKey(unsigned key) override;
 
  protected:
+    bool SelectsOnEnter() override { return false; }
     void TypeCharacter(char character) override;
 
  private:
@@ -56,8 +60,10 @@ class HDateTimePicker : public With<HWinControl, TDateTimePicker> {
     HDateTimePicker(HToolkit& kit, const HClassDef& def);
     TDateTime Date() override;
     void SetDateTime(TDateTime value) override { FValue = value; }
+    /// Date and time are read as the whole value; each sets its own part of it.
     double DateValue() const { return FValue; }
-    void SetDateValue(double value) { FValue = value; }
+    void SetDateValue(double value);
+    void SetTimeValue(double value);
 
  private:
     double FValue;

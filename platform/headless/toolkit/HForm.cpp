@@ -1,8 +1,10 @@
 #include "platform/headless/toolkit/HForm.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "platform/headless/HLimits.h"
+#include "platform/headless/toolkit/HMenus.h"
 #include "platform/headless/toolkit/HToolkit.h"
 
 namespace rux {
@@ -54,21 +56,35 @@ HCustomForm::~HCustomForm() {
 }
 
 void HCustomForm::BeforeDestruction() {
-    Fire(Kit().Names().OnDestroy);
-    if (FModal) FModalResult = mrCancel;
+    if (IsVisible() && FFormStyle != TFormStyle::MDIChild) ChangeVisible(false);
+    FireGuarded(Kit().Names().OnDestroy);
     HWinControl::BeforeDestruction();
 }
 
 void HCustomForm::Detach() {
+    const bool wasActiveChild = FFormStyle == TFormStyle::MDIChild && FActive;
+    HApplication& app = Kit().App();
     Kit().RemoveForm(*this);
-    if (Kit().App().MainFormObject() == this) Kit().App().SetMainForm(nullptr);
     HWinControl::Detach();
+    if (app.MainFormObject() == this) {
+        // Nothing is left to end the application by.
+        app.SetMainForm(nullptr);
+        app.Terminate();
+    } else if (wasActiveChild && app.MainFormObject() && !app.MainFormObject()->Destroying()) {
+        if (HCustomForm* next = dynamic_cast<HCustomForm*>(app.MainFormObject()->MDIChildren(0)))
+            next->ActivateMDIChild();
+    }
+}
+
+void HDataModule::BeforeDestruction() {
+    FireGuarded(Kit().Names().OnDestroy);
 }
 
 // ------------------------------------------------------------------------------------------------ frame
 
 HInsets HCustomForm::Insets() const {
-    const int menu = FMenu ? HMenuHeight : 0;
+    // An MDI child's menu is shown by its frame.
+    const int menu = FMenu && FFormStyle != TFormStyle::MDIChild ? HMenuHeight : 0;
     switch (FBorderStyle) {
         case HBorderStyle::bsNone:
             return {0, menu, 0, 0};
@@ -87,12 +103,12 @@ HInsets HCustomForm::Insets() const {
 
 void HCustomForm::SetBorderStyle(HBorderStyle value) {
     FBorderStyle = value;
-    Kit().Desktop().SetInsets(HandleAllocated() ? Handle() : 0, Insets());
+    Kit().Desktop().SetInsets(Window(), Insets());
 }
 
 void HCustomForm::SetMenu(HObject* menu) {
     FMenu = menu;
-    Kit().Desktop().SetInsets(HandleAllocated() ? Handle() : 0, Insets());
+    Kit().Desktop().SetInsets(Window(), Insets());
 }
 
 void HCustomForm::SetClientWidth(int value) {
@@ -107,8 +123,9 @@ void HCustomForm::SetClientHeight(int value) {
 
 void HCustomForm::ApplyClientSize() {
     const HInsets insets = Insets();
-    if (FWantedWidth) SetWidth(*FWantedWidth + insets.Left + insets.Right);
-    if (FWantedHeight) SetHeight(*FWantedHeight + insets.Top + insets.Bottom);
+    const auto bound = [](int size) { return std::clamp(size, -HCoordLimit, HCoordLimit); };
+    if (FWantedWidth) SetWidth(bound(*FWantedWidth) + insets.Left + insets.Right);
+    if (FWantedHeight) SetHeight(bound(*FWantedHeight) + insets.Top + insets.Bottom);
     FWantedWidth.reset();
     FWantedHeight.reset();
 }
@@ -130,93 +147,139 @@ void HCustomForm::CreateParams(HCreateParams& params) {
 
 void HCustomForm::ApplyPosition() {
     if (std::exchange(FPlaced, true)) return;
-    TRect around = HScreenRect;
-    HCustomForm* main = Kit().App().MainFormObject();
+    HCustomForm* center = nullptr;
     switch (FPosition) {
         case HPosition::poScreenCenter:
         case HPosition::poDesktopCenter:
             break;
         case HPosition::poMainFormCenter:
-            if (main && main != this) around = main->ScreenRect();
-            break;
         case HPosition::poOwnerFormCenter:
-            if (auto* owner = dynamic_cast<HCustomForm*>(OwnerComponent())) around = owner->ScreenRect();
+            if (FPosition == HPosition::poOwnerFormCenter)
+                center = dynamic_cast<HCustomForm*>(OwnerComponent());
+            if (!center) center = Kit().App().MainFormObject();
             break;
         default:
             return;
     }
-    const int left = std::max(0, around.Left + (around.Width() - Width()) / 2);
-    const int top = std::max(0, around.Top + (around.Height() - Height()) / 2);
-    SetBounds({left, top, left + Width(), top + Height()});
+    const TRect around = center && center != this ? center->ScreenRect() : HScreenRect;
+    SetLeft(std::max(0, around.Left + (around.Width() - Width()) / 2));
+    SetTop(std::max(0, around.Top + (around.Height() - Height()) / 2));
 }
 
 // ------------------------------------------------------------------------------------------------ showing
 
+void HCustomForm::SetShowOnLoad(bool value) {
+    FShowOnLoad = value;
+    if (!Loading()) SetVisible(value);
+}
+
+void HCustomForm::Show() {
+    SetVisible(true);
+    BringToFront();
+}
+
 void HCustomForm::SetVisible(bool value) {
-    if (IsVisible() == value) return;
-    if (value) {
-        ApplyPosition();
-        Fire(Kit().Names().OnShow);
-        if (Dead() || IsVisible()) return;
-        HControl::SetVisible(true);
-        Realize();
-        Kit().Desktop().ShowWindow(Handle(), true);
-        if (FFormStyle == TFormStyle::MDIChild)
-            Activated(true);
-        else
-            Kit().Desktop().SetActiveWindow(Handle());
-        return;
-    }
-    Fire(Kit().Names().OnHide);
+    if (IsVisible() == value || Destroying()) return;
+    if (FShowing) throw EInvalidOperation("Cannot change Visible in OnShow or OnHide");
+    if (!value && FFormStyle == TFormStyle::MDIChild)
+        throw EInvalidOperation("Cannot hide an MDI Child Form");
+    ChangeVisible(value);
+}
+
+void HCustomForm::ChangeVisible(bool value) {
+    const HDesktop::THandling handling(Kit().Desktop());
+    HControl::SetVisible(value);
+    const bool within = std::exchange(FShowing, true);
+    if (value)
+        Appear();
+    else
+        Disappear();
+    FShowing = within;
+}
+
+void HCustomForm::Appear() {
+    Realize();
+    FireGuarded(Kit().Names().OnShow);
     if (Dead()) return;
-    HControl::SetVisible(false);
-    if (HandleAllocated()) Kit().Desktop().ShowWindow(Handle(), false);
-    if (FActive) Activated(false);
+    ApplyPosition();
+    Kit().Desktop().ShowWindow(Handle(), true);
+    BringToFront();
+}
+
+void HCustomForm::Disappear() {
+    FireGuarded(Kit().Names().OnHide);
+    Kit().Desktop().ShowWindow(Window(), false);
 }
 
 void HCustomForm::BringToFront() {
-    HWinControl::BringToFront();
+    if (!Window() || !IsVisible()) return;
+    Kit().Desktop().BringWindowToTop(Window());
     if (FFormStyle == TFormStyle::MDIChild)
-        Activated(true);
-    else if (HandleAllocated())
-        Kit().Desktop().SetActiveWindow(Handle());
+        ActivateMDIChild();
+    else
+        Kit().Desktop().SetActiveWindow(Window());
 }
 
-int HCustomForm::ShowModal() {
-    if (IsVisible() || !IsEnabled() || FModal || FFormStyle == TFormStyle::MDIChild)
-        throw EInvalidOperation("Cannot make a visible window modal");
-    HDesktop& desktop = Kit().Desktop();
-    const HWnd activeBefore = desktop.GetActiveWindow();
-    FModal = true;
-    const std::vector<HWnd> disabled = Kit().DisableTaskWindows(0);
-    const auto restore = [&] {
-        if (!Dead()) SetVisible(false);
-        Kit().EnableTaskWindows(disabled);
-        if (desktop.Find(activeBefore)) desktop.SetActiveWindow(activeBefore);
-        FModal = false;
-    };
-    try {
-        Show();
-        FModalResult = mrNone;
-        while (FModalResult == mrNone) {
-            Kit().App().HandleMessage();
-            if (Kit().App().Terminated() || Dead())
-                FModalResult = mrCancel;
-            else if (FModalResult != mrNone)
-                CloseModal();
-        }
-    } catch (...) {
-        restore();
-        throw;
+/// What a modal form changes around it.
+class HCustomForm::TModal {
+ public:
+    explicit TModal(HCustomForm& form)
+        : FForm(form),
+          FHandling(form.Kit().Desktop()),
+          FActiveWindow(form.Kit().Desktop().GetActiveWindow()),
+          FFocusedForm(form.Kit().FocusedForm()) {
+        FForm.FModal = true;
+        FForm.Kit().SetFocusedForm(&FForm);
+        FDisabled.emplace(FForm.Kit().Desktop());
     }
-    const int result = FModalResult;
-    restore();
-    return result;
+    ~TModal() {
+        HDesktop& desktop = FForm.Kit().Desktop();
+        // Whoever was active comes back, unless somebody else has come up meanwhile.
+        const bool stillActive = FForm.Dead() || desktop.GetActiveWindow() == FForm.Window();
+        if (FForm.IsVisible() && !FForm.Destroying()) FForm.ChangeVisible(false);
+        FDisabled.reset();
+        FForm.Kit().SetFocusedForm(FFocusedForm.Get());
+        if (stillActive) desktop.SetActiveWindow(FActiveWindow);
+        FForm.FModal = false;
+    }
+    TModal(const TModal&) = delete;
+    TModal& operator=(const TModal&) = delete;
+
+ private:
+    HCustomForm& FForm;
+    const HDesktop::THandling FHandling;
+    const HWnd FActiveWindow;
+    const HRef<HCustomForm> FFocusedForm;
+    std::optional<HTaskWindowsDisabled> FDisabled;
+};
+
+int HCustomForm::ShowModal() {
+    if (IsVisible() || !IsEnabled() || FModal || Destroying() || FFormStyle == TFormStyle::MDIChild)
+        throw EInvalidOperation("Cannot make a visible window modal");
+    Kit().Desktop().CancelMode();
+    const TModal modal(*this);
+    HApplication& app = Kit().App();
+    Show();
+    FireGuarded(Kit().Names().OnActivate);
+    FModalResult = mrNone;
+    while (FModalResult == mrNone && !Dead()) {
+        app.HandleMessage();
+        if (app.Terminated())
+            FModalResult = mrCancel;
+        else if (FModalResult != mrNone)
+            CloseModal();
+    }
+    FireGuarded(Kit().Names().OnDeactivate);
+    return Dead() ? mrCancel : FModalResult;
 }
 
 bool HCustomForm::CloseQuery() {
-    for (int i = 0; i < MDIChildCount(); ++i)
-        if (!dynamic_cast<HCustomForm*>(MDIChildren(i))->CloseQuery()) return false;
+    if (FFormStyle == TFormStyle::MDIForm) {
+        const std::vector<HCustomForm*> forms = Kit().Forms();
+        for (HCustomForm* form : forms)
+            if (!form->Dead() && form->FFormStyle == TFormStyle::MDIChild && !form->CloseQuery())
+                return false;
+    }
     HEventArgs args;
     Fire(Kit().Names().OnCloseQuery, args);
     return args.Allow;
@@ -231,13 +294,12 @@ int HCustomForm::CloseActionOf() {
 }
 
 void HCustomForm::CloseModal() {
-    if (!CloseQuery()) {
-        FModalResult = mrNone;
-        return;
-    }
-    const int action = CloseActionOf();
+    int action = caNone;
+    Kit().App().Guarded([&] {
+        if (CloseQuery()) action = CloseActionOf();
+    });
     if (action == caNone) FModalResult = mrNone;
-    if (action == caFree) Release();
+    if (action == caFree && !Dead()) Release();
 }
 
 void HCustomForm::Close() {
@@ -264,96 +326,134 @@ void HCustomForm::Release() {
 
 // ------------------------------------------------------------------------------------------------ focus
 
-void HCustomForm::SetActiveControlObject(HObject* control) {
-    FActiveControl = dynamic_cast<HWinControl*>(control);
+void HCustomForm::SetActiveControlObject(HObject* object) {
+    auto* control = dynamic_cast<HWinControl*>(object);
+    if (Loading())
+        FActiveControl = control;
+    else
+        SetActiveControl(control);
+}
+
+void HCustomForm::SetActiveControl(HWinControl* control) {
+    if (control == this) control = nullptr;
+    if (FActiveControl.Get() == control) return;
+    if (control && IsVisible() && IsEnabled() && !control->CanFocus()) throw EInvalidOperation(CannotFocus);
+    FActiveControl = control;
+    if (FActive) FocusWindow();
 }
 
 void HCustomForm::FocusControl(HWinControl& control) {
     const bool wasActive = FActive;
-    if (FActiveControl != &control) {
-        if (&control != this && IsVisible() && IsEnabled() && !control.CanFocus())
-            throw EInvalidOperation(CannotFocus);
-        FActiveControl = &control == this ? nullptr : &control;
-        if (FActive) FocusWindow();
-    }
+    SetActiveControl(&control);
     if (!wasActive) SetFocus();
 }
 
 void HCustomForm::SetFocus() {
     if (FActive) return;
     if (!IsVisible() || !IsEnabled()) throw EInvalidOperation(CannotFocus);
-    FocusWindow();
+    if (FFormStyle == TFormStyle::MDIChild)
+        ActivateMDIChild();
+    else
+        FocusWindow();
 }
 
 void HCustomForm::FocusWindow() {
-    HWinControl* target = FActiveControl ? FActiveControl : this;
-    Kit().Desktop().SetFocus(target->Handle());
+    Kit().Desktop().SetFocus(FocusOrMe(FActiveControl.Get())->Handle());
 }
 
-void HCustomForm::ControlFocused(HWinControl& control) {
-    HWinControl* entered = &control == this ? nullptr : &control;
-    if (entered) FActiveControl = entered;
-    HWinControl* left = std::exchange(FEntered, entered);
-    if (left == entered) return;
-    const auto outside = [](HWinControl* step, HWinControl* other) {
-        return !other || !other->IsWithin(step);
-    };
+void HCustomForm::Defocus(const HWinControl& control, bool removing) {
+    const auto holds = [&](const HRef<HWinControl>& held) { return held && held->IsWithin(&control); };
+    // Nobody hears an OnExit from what is being taken away.
+    if (removing && holds(FEntered))
+        FEntered = control.ParentControl() == this ? nullptr : control.ParentControl();
+    if (holds(FActiveControl)) SetActiveControl(nullptr);
+}
+
+bool HCustomForm::SetFocusedControl(HWinControl& control) {
+    const unsigned move = Kit().CountFocusMove();
+    const auto goesOn = [&] { return Kit().FocusMoves() == move && !Dead() && !control.Dead(); };
+    if (&control != this) FActiveControl = &control;
+    Kit().FormFocused(*this);
+    if (HCustomForm* before = Kit().FocusedForm(); before != this) {
+        Kit().SetFocusedForm(nullptr);
+        if (before) before->FireGuarded(Kit().Names().OnDeactivate);
+        if (!goesOn()) return false;
+        Kit().SetFocusedForm(this);
+        FireGuarded(Kit().Names().OnActivate);
+        if (!goesOn()) return false;
+    }
+    // From the control that had the focus up to what both stand on, then down to the one that gets it.
+    HWinControl* entered = FocusOrMe(FEntered.Get());
+    if (entered == &control) return true;
+    const std::unordered_set<HWinControl*> around = [&] {
+        std::unordered_set<HWinControl*> all;
+        for (HWinControl* step = &control; step; step = step->ParentControl()) all.insert(step);
+        return all;
+    }();
+    while (entered && entered != this && !around.count(entered)) {
+        HWinControl* left = std::exchange(entered, entered->ParentControl());
+        FEntered = entered == this ? nullptr : entered;
+        Kit().App().Guarded([&] { left->DoExit(); });
+        if (!goesOn()) return false;
+    }
     std::vector<HWinControl*> entering;
-    for (HWinControl* step = entered; step && step != this && outside(step, left);
-         step = step->ParentControl())
+    for (HWinControl* step = &control; step && step != entered && step != this; step = step->ParentControl())
         entering.push_back(step);
-    for (HWinControl* step = left; step && step != this && outside(step, entered);
-         step = step->ParentControl())
-        step->Fire(Kit().Names().OnExit);
-    for (auto step = entering.rbegin(); step != entering.rend(); ++step) (*step)->Fire(Kit().Names().OnEnter);
-}
-
-void HCustomForm::ControlGone(const HWinControl& control) {
-    if (FActiveControl && FActiveControl->IsWithin(&control)) FActiveControl = nullptr;
-    if (FEntered && FEntered->IsWithin(&control)) FEntered = nullptr;
-}
-
-void HCustomForm::SelectFirst() {
-    if (!FActiveControl) FActiveControl = NextTabControl(nullptr, false);
+    for (auto step = entering.rbegin(); step != entering.rend(); ++step) {
+        FEntered = *step;
+        Kit().App().Guarded([&] { (*step)->DoEnter(); });
+        if (!goesOn()) return false;
+    }
+    return true;
 }
 
 HWinControl* HCustomForm::NextTabControl(const HWinControl* from, bool backwards) {
+    struct TPlace {
+        HWinControl* Control;
+        bool Reachable;
+    };
     // Tab order: depth first, the controls of one parent by TabOrder and then by creation.
-    std::vector<HWinControl*> order;
-    std::vector<HWinControl*> pending{this};
+    std::vector<TPlace> order;
+    std::vector<TPlace> pending{{this, true}};
     while (!pending.empty()) {
-        HWinControl* control = pending.back();
+        const TPlace place = pending.back();
         pending.pop_back();
-        if (control != this && control->TabStop() && control->CanFocus()) order.push_back(control);
-        std::vector<HWinControl*> row = control->WindowedControls();
-        std::stable_sort(row.begin(), row.end(), [](const HWinControl* a, const HWinControl* b) {
-            return static_cast<unsigned>(a->TabOrder()) < static_cast<unsigned>(b->TabOrder());
+        if (place.Control != this)
+            order.push_back({place.Control, place.Reachable && place.Control->TabStop()});
+        std::vector<HWinControl*> row = place.Control->WindowedControls();
+        std::sort(row.begin(), row.end(), [](const HWinControl* a, const HWinControl* b) {
+            const auto key = [](const HWinControl* c) {
+                return std::pair(static_cast<unsigned>(c->TabOrder()), c->RefNumber());
+            };
+            return key(a) < key(b);
         });
         for (auto step = row.rbegin(); step != row.rend(); ++step)
-            if ((*step)->IsVisible()) pending.push_back(*step);
+            pending.push_back({*step, place.Reachable && (*step)->IsVisible() && (*step)->IsEnabled()});
     }
-    if (order.empty()) return nullptr;
-    const auto place = std::find(order.begin(), order.end(), from);
-    if (place == order.end()) return order.front();
-    const auto count = static_cast<std::ptrdiff_t>(order.size());
-    const std::ptrdiff_t index = place - order.begin() + (backwards ? count - 1 : 1);
-    return order[static_cast<std::size_t>(index % count)];
+    if (backwards) std::reverse(order.begin(), order.end());
+    const auto start =
+        std::find_if(order.begin(), order.end(), [&](const TPlace& p) { return p.Control == from; });
+    if (start != order.end()) std::rotate(order.begin(), start + 1, order.end());
+    const auto next = std::find_if(order.begin(), order.end(), [](const TPlace& p) { return p.Reachable; });
+    return next == order.end() ? nullptr : next->Control;
 }
 
 bool HCustomForm::DialogKey(unsigned key, HWinControl& focused) {
-    if (focused.WantsKey(key)) return false;
+    const HDesktop& desktop = Kit().Desktop();
+    if (focused.WantsKey(key) || desktop.KeyIsDown(VK_CONTROL)) return false;
     if (key == VK_TAB) {
-        HWinControl* next = NextTabControl(&focused, Kit().Desktop().KeyIsDown(VK_SHIFT));
+        HWinControl* next = NextTabControl(FActiveControl.Get(), desktop.KeyIsDown(VK_SHIFT));
         if (next) next->SetFocus();
-        return next != nullptr;
+        return true;
     }
-    if (key != VK_RETURN && key != VK_ESCAPE) return false;
+    if ((key != VK_RETURN && key != VK_ESCAPE) || desktop.KeyIsDown(VK_SHIFT)) return false;
     // The focused button answers Enter; else the form's default button does, and the cancel button Escape.
     std::vector<HWinControl*> pending{this};
     while (!pending.empty()) {
         HWinControl* control = pending.back();
         pending.pop_back();
-        if (control != this && control->CanFocus() && control->Perform(CM_DIALOGKEY, key, 0)) return true;
+        if (control != this && (!control->IsVisible() || !control->IsEnabled())) continue;
+        if (control != this && control->Perform(CM_DIALOGKEY, key, 0)) return true;
         pending.insert(pending.end(), control->WindowedControls().rbegin(),
                        control->WindowedControls().rend());
     }
@@ -362,21 +462,33 @@ bool HCustomForm::DialogKey(unsigned key, HWinControl& focused) {
 
 // ------------------------------------------------------------------------------------------------ messages
 
-void HCustomForm::Activated(bool active) {
-    if (FActive == active) return;
+void HCustomForm::SetActive(bool active) {
     FActive = active;
-    if (FFormStyle == TFormStyle::MDIChild && active)
-        for (HCustomForm* other : std::vector<HCustomForm*>(Kit().Forms()))
-            if (other != this && other->FFormStyle == TFormStyle::MDIChild) other->FActive = false;
-    if (active) {
-        Kit().FormActivated(*this);
-        SelectFirst();
-        FocusWindow();
-        if (!Dead()) Fire(Kit().Names().OnActivate);
-        return;
+    if (!active) return;
+    if (!FActiveControl) FActiveControl = NextTabControl(nullptr, false);
+    FocusWindow();
+}
+
+HCustomForm* HCustomForm::ActiveMDIChild() {
+    const auto& forms = Kit().Forms();
+    const auto found = std::find_if(forms.begin(), forms.end(), [](const HCustomForm* form) {
+        return form->FFormStyle == TFormStyle::MDIChild && form->FActive;
+    });
+    return found == forms.end() ? nullptr : *found;
+}
+
+void HCustomForm::ActivateMDIChild() {
+    if (HCustomForm* before = ActiveMDIChild(); before && before != this) before->SetActive(false);
+    SetActive(true);
+}
+
+bool HCustomForm::PassFocusOn() {
+    if (FFormStyle == TFormStyle::MDIForm) {
+        HCustomForm* child = ActiveMDIChild();
+        return child && Kit().Desktop().SetFocus(child->Window());
     }
-    Kit().FormDeactivated(*this);
-    Fire(Kit().Names().OnDeactivate);
+    HWinControl* control = FActiveControl.Get();
+    return control && control->Window() && control->CanFocus() && Kit().Desktop().SetFocus(control->Window());
 }
 
 void HCustomForm::HandleMessage(HMessage& message) {
@@ -385,17 +497,14 @@ void HCustomForm::HandleMessage(HMessage& message) {
             Close();
             return;
         case WM_ACTIVATE:
-            Activated(message.W != 0);
+            // Of an MDI frame and its children the children are active.
+            if (FFormStyle != TFormStyle::MDIForm) SetActive(message.W != 0);
             return;
         case CM_RELEASE:
             Free();
             return;
         case WM_SETFOCUS:
-            // The form hands the focus on to its active control.
-            if (FActiveControl && FActiveControl->HandleAllocated() && FActiveControl->CanFocus()) {
-                FocusWindow();
-                return;
-            }
+            if (PassFocusOn()) return;
             break;
         default:
             break;
@@ -405,27 +514,29 @@ void HCustomForm::HandleMessage(HMessage& message) {
 
 int HCustomForm::MDIChildCount() {
     if (FFormStyle != TFormStyle::MDIForm) return 0;
-    return static_cast<int>(std::count_if(Kit().Forms().begin(), Kit().Forms().end(), [](HCustomForm* f) {
-        return f->FFormStyle == TFormStyle::MDIChild && f->HandleAllocated();
+    const auto& forms = Kit().Forms();
+    return static_cast<int>(std::count_if(forms.begin(), forms.end(), [](const HCustomForm* f) {
+        return f->FFormStyle == TFormStyle::MDIChild;
     }));
 }
 
 TObject* HCustomForm::MDIChildren(int index) {
     for (HCustomForm* form : Kit().Forms())
-        if (form->FFormStyle == TFormStyle::MDIChild && form->HandleAllocated() && index-- == 0) return form;
+        if (form->FFormStyle == TFormStyle::MDIChild && index-- == 0) return form;
     return nullptr;
 }
 
-void HCustomForm::RemoveActionClient(const HControl& control) {
-    std::erase(FActionClients, &control);
-}
-
 void HCustomForm::UpdateActions() {
-    const std::vector<HControl*> clients = FActionClients;
-    for (HControl* client : clients) {
-        if (Dead()) return;
-        if (!client->Dead() && client->IsVisible() && client->Action()) client->Action()->Update();
+    if (!IsVisible()) return;
+    const HDesktop::THandling handling(Kit().Desktop());
+    if (auto* menu = dynamic_cast<HMenu*>(FMenu.Get())) {
+        const std::vector<HMenuItem*> items = menu->Root().Items();
+        for (HMenuItem* item : items)
+            if (!item->Dead() && item->Visible() && item->Action()) item->Action()->Update();
     }
+    const std::vector<HControl*> controls = Kit().ActionControls();
+    for (HControl* control : controls)
+        if (!control->Dead() && control->Action() && control->IsShowingOn(*this)) control->Action()->Update();
 }
 
 }  // namespace rux

@@ -60,22 +60,26 @@ class HCustomForm : public With<HWinControl, TCustomForm> {
     void SetClientWidth(int value);
     int ClientHeight() { return ClientRect().Height(); }
     void SetClientHeight(int value);
-    HObject* Menu() const { return FMenu; }
+    HObject* Menu() const { return FMenu.Get(); }
     void SetMenu(HObject* menu);
-    HObject* ActiveControlObject() const { return FActiveControl; }
+    HObject* ActiveControlObject() const { return FActiveControl.Get(); }
+    /// While loading as the file has it, later as SetActiveControl.
     void SetActiveControlObject(HObject* control);
     int ModalResult() const { return FModalResult; }
     void SetModalResult(int value) { FModalResult = value; }
-    /// A form file's Visible: it takes effect once everything is loaded.
-    bool ShowOnLoad() const { return FShowOnLoad; }
-    void SetShowOnLoad(bool value) { FShowOnLoad = value; }
+    /// The published Visible. While loading it says what is to happen once everything is loaded.
+    bool ShowOnLoad() const { return Loading() ? FShowOnLoad : IsVisible(); }
+    void SetShowOnLoad(bool value);
+    bool WantsShow() const { return FShowOnLoad; }
     bool KeyPreview() const { return FKeyPreview; }
     void SetKeyPreview(bool value) { FKeyPreview = value; }
     bool MinimizeBox() const { return FMinimizeBox; }
     void SetMinimizeBox(bool value) { FMinimizeBox = value; }
 
-    void Show() { SetVisible(true); }
+    void Show();
     void Hide() { SetVisible(false); }
+    /// Raises EInvalidOperation "Cannot change Visible in OnShow or OnHide" there, and "Cannot hide an MDI
+    /// Child Form".
     void SetVisible(bool value) override;
     void BringToFront() override;
     void SetFocus() override;
@@ -86,16 +90,18 @@ class HCustomForm : public With<HWinControl, TCustomForm> {
     /// Ends the form once the message at hand has been handled.
     void Release();
 
-    HWinControl* ActiveControl() const { return FActiveControl; }
-    /// Sets the active control as focusing asks for it; raises EInvalidOperation when it cannot be focused.
+    HWinControl* ActiveControl() const { return FActiveControl.Get(); }
+    /// nil for none. Raises EInvalidOperation "Cannot focus a disabled or invisible window".
+    void SetActiveControl(HWinControl* control);
+    /// Sets the active control as focusing asks for it; raises as SetActiveControl does.
     void FocusControl(HWinControl& control);
-    /// A control got the window system's focus: enter and exit events.
-    void ControlFocused(HWinControl& control);
-    void ControlGone(const HWinControl& control);
+    /// A control got the window system's focus: activation, exit and enter events. False when these moved the
+    /// focus elsewhere.
+    bool SetFocusedControl(HWinControl& control);
+    /// Takes the focus away from a control and everything on it.
+    void Defocus(const HWinControl& control, bool removing);
     /// Keys that a dialog treats itself: Enter, Escape, Tab. True when the key was used.
     bool DialogKey(unsigned key, HWinControl& focused);
-    void AddActionClient(HControl& control) { FActionClients.push_back(&control); }
-    void RemoveActionClient(const HControl& control);
 
     void HandleMessage(HMessage& message) override;
     void Loaded() override;
@@ -108,23 +114,31 @@ class HCustomForm : public With<HWinControl, TCustomForm> {
     void Detach() override;
 
  private:
+    class TModal;
     void ApplyClientSize();
     void ApplyPosition();
-    void Activated(bool active);
+    void ChangeVisible(bool value);
+    void Appear();
+    void Disappear();
+    void SetActive(bool active);
+    void ActivateMDIChild();
+    HCustomForm* ActiveMDIChild();
     void FocusWindow();
-    void SelectFirst();
+    bool PassFocusOn();
     bool CloseQuery();
     int CloseActionOf();
     void CloseModal();
     HWinControl* NextTabControl(const HWinControl* from, bool backwards);
+    HWinControl* FocusOrMe(HWinControl* control) { return control ? control : this; }
 
     TFormStyle FFormStyle = TFormStyle::Normal;
     HBorderStyle FBorderStyle = HBorderStyle::bsSizeable;
     HPosition FPosition = HPosition::poDesigned;
     HWindowState FWindowState = HWindowState::wsNormal;
-    HObject* FMenu = nullptr;
-    HWinControl* FActiveControl = nullptr;
-    HWinControl* FEntered = nullptr;
+    HRef<HObject> FMenu;
+    HRef<HWinControl> FActiveControl;
+    /// The control whose OnEnter was the last to fire without its OnExit; nil for the form itself.
+    HRef<HWinControl> FEntered;
     int FModalResult = 0;
     bool FShowOnLoad = false;
     bool FKeyPreview = false;
@@ -132,9 +146,9 @@ class HCustomForm : public With<HWinControl, TCustomForm> {
     bool FModal = false;
     bool FActive = false;
     bool FPlaced = false;
+    bool FShowing = false;
     /// Client size that a form file asks for; the frame is known only once everything is read.
     std::optional<int> FWantedWidth, FWantedHeight;
-    std::vector<HControl*> FActionClients;
 };
 
 /// A frame: a part of a form that is designed on its own.
@@ -147,6 +161,9 @@ class HCustomFrame : public HWinControl {
 class HDataModule : public HComponent {
  public:
     using HComponent::HComponent;
+
+ protected:
+    void BeforeDestruction() override;
 };
 
 }  // namespace rux

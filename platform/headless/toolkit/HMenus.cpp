@@ -10,21 +10,21 @@ void HMenuItem::SetAction(HObject* action) {
     FAction = dynamic_cast<HCustomAction*>(action);
     if (!FAction) return;
     FAction->AddClient(*this);
-    ActionChanged(*FAction, true);
+    ActionChanged(*FAction, FAction->Loading());
 }
 
 void HMenuItem::ActionChanged(HCustomAction& action, bool onlyDefaults) {
-    if (!onlyDefaults || FCaption.empty() || FCaption == Name()) FCaption = action.Caption();
-    if (!onlyDefaults || FEnabled) FEnabled = action.Enabled();
-    if (!onlyDefaults || FVisible) FVisible = action.Visible();
-    if (!onlyDefaults || !FChecked) FChecked = action.Checked();
-    const TPropValue* hint = Stored(Kit().Names().Hint);
-    if (!onlyDefaults || !hint || hint->Text.empty()) Store(Kit().Names().Hint, HStringValue(action.Hint()));
-}
-
-void HMenuItem::Loaded() {
-    HComponent::Loaded();
-    if (FAction) ActionChanged(*FAction, true);
+    const HNames& names = Kit().Names();
+    const TPropValue* stored = Stored(names.Hint);
+    const std::string hint = stored ? stored->Text : std::string();
+    const bool plain = FCaption.empty() || FCaption == Name();
+    Store(names.Hint, HStringValue(action.Followed(&HActionState::Hint, hint, hint.empty(), onlyDefaults)));
+    FCaption = action.Followed(&HActionState::Caption, FCaption, plain, onlyDefaults);
+    FEnabled = action.Followed(&HActionState::Enabled, FEnabled, FEnabled, onlyDefaults);
+    FVisible = action.Followed(&HActionState::Visible, FVisible, FVisible, onlyDefaults);
+    FChecked = action.Followed(&HActionState::Checked, FChecked, !FChecked, onlyDefaults);
+    for (const TName name : {names.ImageIndex, names.ShortCut, names.HelpContext})
+        action.Hand(name, *this, onlyDefaults);
 }
 
 void HMenuItem::Click() {
@@ -44,12 +44,15 @@ void HMenuItem::AddItem(HMenuItem& item) {
     FItems.push_back(&item);
 }
 
+void HMenuItem::AddParts(std::vector<HComponent*>& parts) const {
+    HComponent::AddParts(parts);
+    parts.insert(parts.end(), FItems.begin(), FItems.end());
+}
+
 void HMenuItem::Detach() {
     SetAction(nullptr);
     if (FParent) std::erase(FParent->FItems, this);
     FParent = nullptr;
-    for (HMenuItem* item : FItems) item->FParent = nullptr;
-    FItems.clear();
 }
 
 HMenu::HMenu(HToolkit& kit, const HClassDef& def)

@@ -21,11 +21,11 @@ class HMenuItem : public HComponent, public HActionClient {
     void SetChecked(bool value) { FChecked = value; }
     bool AutoCheck() const { return FAutoCheck; }
     void SetAutoCheck(bool value) { FAutoCheck = value; }
+    HCustomAction* Action() const { return FAction; }
     HObject* ActionObject() const { return FAction; }
     void SetAction(HObject* action);
     void ActionChanged(HCustomAction& action, bool onlyDefaults) override;
     void ActionGone() override { FAction = nullptr; }
-    void Loaded() override;
 
     /// Does nothing while disabled; toggles with AutoCheck; then the handler or the action.
     void Click();
@@ -35,6 +35,7 @@ class HMenuItem : public HComponent, public HActionClient {
     void AddItem(HMenuItem& item);
 
  protected:
+    void AddParts(std::vector<HComponent*>& parts) const override;
     void Detach() override;
 
  private:

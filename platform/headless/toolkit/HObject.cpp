@@ -7,6 +7,17 @@
 
 namespace rux {
 
+HObject* HAnyRef::Get() const {
+    // The pointer alone does not tell: its place in memory may belong to another object by now.
+    return FKit && FKit->Find(FRef) == FObject ? FObject : nullptr;
+}
+
+void HAnyRef::Set(HObject* object) {
+    FObject = object;
+    FKit = object ? &object->Kit() : nullptr;
+    FRef = object ? object->RefNumber() : 0;
+}
+
 HObject::HObject(HToolkit& kit, const HClassDef& def) : FKit(kit), FDef(def), FRef(kit.NewRefNumber()) {
     FKit.Remember(*this);
 }
@@ -28,14 +39,19 @@ bool HObject::GetProp(TName name, TPropValue& value) {
     }
     if (const TPropValue* stored = Stored(name)) {
         value = *stored;
+        // Ordinal is the number of the object; what was freed reads as nil.
+        if (value.Object && FKit.Find(static_cast<std::uint64_t>(value.Ordinal)) != value.Object)
+            value.Object = nullptr;
         return true;
     }
     if (!def) return false;
     value = def->Default;
     if (def->Kind == TTypeKind::Class && !value.Text.empty()) {
         // A part that exists as soon as somebody asks for it.
-        value = HObjectValue(&Adopt(FKit.Make(value.Text)));
+        std::unique_ptr<HObject> part = FKit.Make(value.Text);
+        value = HObjectValue(part.get());
         Store(name, value);
+        if (part) Adopt(std::move(part));
     }
     return true;
 }

@@ -11,8 +11,32 @@
 
 namespace rux {
 
+class HObject;
 class HToolkit;
 struct HClassDef;
+
+/// A reference to an object that somebody else may free; it is nil from then on.
+class HAnyRef {
+ public:
+    HObject* Get() const;
+    void Set(HObject* object);
+
+ private:
+    HObject* FObject = nullptr;
+    HToolkit* FKit = nullptr;
+    std::uint64_t FRef = 0;
+};
+template <class T>
+class HRef {
+ public:
+    HRef(T* object = nullptr) { FAny.Set(object); }
+    T* Get() const { return static_cast<T*>(FAny.Get()); }
+    T* operator->() const { return Get(); }
+    explicit operator bool() const { return FAny.Get() != nullptr; }
+
+ private:
+    HAnyRef FAny;
+};
 
 class HObject : public TObject {
  public:

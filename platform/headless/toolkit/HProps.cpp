@@ -24,11 +24,18 @@ TPropValue HIntegerValue(std::int64_t value) {
 TPropValue HStringValue(std::string value) {
     return {.Kind = TTypeKind::String, .Text = std::move(value)};
 }
+TPropValue HCharValue(std::string_view text) {
+    const int ordinal = text.empty() ? 0 : static_cast<unsigned char>(text.front());
+    return {.Kind = TTypeKind::Char, .Ordinal = ordinal, .Text = {}};
+}
 TPropValue HFloatValue(double value) {
     return {.Kind = TTypeKind::Float, .Real = value, .Text = {}};
 }
 TPropValue HObjectValue(HObject* value) {
-    return {.Kind = TTypeKind::Class, .Text = {}, .Object = value};
+    return {.Kind = TTypeKind::Class,
+            .Ordinal = value ? static_cast<std::int64_t>(value->RefNumber()) : 0,
+            .Text = {},
+            .Object = value};
 }
 TPropValue HSetValue(std::string elements) {
     return {.Kind = TTypeKind::Set, .Text = std::move(elements)};

@@ -41,7 +41,10 @@ struct HPropDef {
 
 TPropValue HIntegerValue(std::int64_t value);
 TPropValue HStringValue(std::string value);
+/// The first byte of a text; the empty text gives #0.
+TPropValue HCharValue(std::string_view text);
 TPropValue HFloatValue(double value);
+/// Ordinal is the object's reference number.
 TPropValue HObjectValue(HObject* value);
 TPropValue HEnumValue(const HEnumInfo& info, int ordinal);
 inline TPropValue HBooleanValue(bool value) {

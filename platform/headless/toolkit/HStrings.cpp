@@ -34,7 +34,8 @@ std::vector<std::string> HTextLines::Lines() const {
 
 void HTextLines::SetLines(std::vector<std::string> lines) {
     std::string text;
-    for (std::size_t i = 0; i < lines.size(); ++i) text += (i ? "\r\n" : "") + lines[i];
+    // Lines are added one by one, and each brings its own end.
+    for (const std::string& line : lines) text += line + "\r\n";
     if (FSet) FSet(std::move(text));
 }
 

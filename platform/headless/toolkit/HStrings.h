@@ -54,6 +54,8 @@ class HCollection : public HObject {
     HObject& Add(std::unique_ptr<HObject> item);
     const std::vector<HObject*>& Items() const { return FItems; }
     int Count() const { return static_cast<int>(FItems.size()); }
+    /// The items stay alive as long as the collection: somebody may still hold one.
+    void Clear() { FItems.clear(); }
 
  private:
     std::vector<HObject*> FItems;

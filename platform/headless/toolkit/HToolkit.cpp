@@ -31,9 +31,9 @@ HToolkit::~HToolkit() {
     // No loop may start any more; the forms' own code still hears of their end.
     FDesktop.Quit();
     FApplication->Free();
+    FDesktop.EmptyGraveyard();
     FDesktop.SetErrorReport(nullptr);
     FApplication.reset();
-    FDesktop.EmptyGraveyard();
 }
 
 std::unique_ptr<HObject> HToolkit::Make(std::string_view className) {
@@ -50,51 +50,50 @@ HWinControl* HToolkit::ControlOf(HWnd window) const {
 void HToolkit::RemoveForm(HCustomForm& form) {
     std::erase(FForms, &form);
     if (FActiveForm == &form) FActiveForm = nullptr;
+    if (FFocusedForm == &form) FFocusedForm = nullptr;
 }
 
-void HToolkit::FormActivated(HCustomForm& form) {
+void HToolkit::FormFocused(HCustomForm& form) {
     FActiveForm = &form;
     std::erase(FForms, &form);
     FForms.insert(FForms.begin(), &form);
 }
 
-void HToolkit::FormDeactivated(HCustomForm& form) {
-    if (FActiveForm == &form) FActiveForm = nullptr;
+HControl* HToolkit::CaptureControl() const {
+    HWinControl* window = ControlOf(FDesktop.GetCapture());
+    return window && FCaptureGraphic && FCaptureGraphic->ParentControl() == window ? FCaptureGraphic : window;
 }
 
 void HToolkit::SetCaptureControl(HControl* control) {
-    FCaptureControl = control;
-    if (!control) {
-        FDesktop.ReleaseCapture();
-        return;
-    }
-    HWinControl* window =
-        control->IsWindowed() ? static_cast<HWinControl*>(control) : control->ParentControl();
-    FDesktop.SetCapture(window ? window->Handle() : 0);
+    FDesktop.ReleaseCapture();
+    FCaptureGraphic = control && !control->IsWindowed() ? control : nullptr;
+    HWinControl* window = FCaptureGraphic ? control->ParentControl() : static_cast<HWinControl*>(control);
+    if (window) FDesktop.SetCapture(window->Handle());
 }
 
-std::vector<HWnd> HToolkit::DisableTaskWindows(HWnd except) {
-    std::vector<HWnd> disabled;
-    FDesktop.EnumWindows([&](HWnd window) {
-        if (window != except && FDesktop.IsWindowVisible(window) && FDesktop.IsWindowEnabled(window))
-            disabled.push_back(window);
-        return true;
-    });
-    for (const HWnd window : disabled) FDesktop.EnableWindow(window, false);
-    return disabled;
+void HToolkit::ForgetCapture(const HControl& control) {
+    if (CaptureControl() == &control) FDesktop.ReleaseCapture();
+    if (FCaptureGraphic == &control) FCaptureGraphic = nullptr;
 }
 
-void HToolkit::EnableTaskWindows(const std::vector<HWnd>& windows) {
-    for (const HWnd window : windows) FDesktop.EnableWindow(window, true);
+void HToolkit::ActionLinked(HControl& control, bool linked) {
+    // Controls mostly go in the reverse order of their coming.
+    const auto place = std::find(FActionControls.rbegin(), FActionControls.rend(), &control);
+    if (place != FActionControls.rend()) FActionControls.erase(std::next(place).base());
+    if (linked) FActionControls.push_back(&control);
 }
 
 TObject& HToolkit::Application() {
     return *FApplication;
 }
 
-TObject* HToolkit::ObjectOfProp(std::uintptr_t value) {
-    const auto found = FLive.find(value);
+HObject* HToolkit::Find(std::uint64_t ref) const {
+    const auto found = FLive.find(ref);
     return found == FLive.end() ? nullptr : found->second;
+}
+
+TObject* HToolkit::ObjectOfProp(std::uintptr_t value) {
+    return Find(value);
 }
 
 std::uint64_t HToolkit::NewRefNumber() {
@@ -110,6 +109,18 @@ TObject* HToolkit::ActiveForm() {
 TObject* HToolkit::CustomForms(int index) {
     const auto place = static_cast<std::size_t>(index);
     return place < FForms.size() ? FForms[place] : nullptr;
+}
+
+HTaskWindowsDisabled::HTaskWindowsDisabled(HDesktop& desktop) : FDesktop(desktop) {
+    FDesktop.EnumWindows([&](HWnd window) {
+        if (FDesktop.IsWindowVisible(window) && FDesktop.IsWindowEnabled(window)) FWindows.push_back(window);
+        return true;
+    });
+    for (const HWnd window : FWindows) FDesktop.EnableWindow(window, false);
+}
+
+HTaskWindowsDisabled::~HTaskWindowsDisabled() {
+    for (const HWnd window : FWindows) FDesktop.EnableWindow(window, true);
 }
 
 }  // namespace rux

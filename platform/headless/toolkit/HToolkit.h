@@ -43,6 +43,8 @@ class HToolkit final : public TToolkit, public TScreen, public TMouse {
 
     void Remember(HObject& object) { FLive.emplace(object.RefNumber(), &object); }
     void Forget(HObject& object) { FLive.erase(object.RefNumber()); }
+    /// nil for an object that has been freed.
+    HObject* Find(std::uint64_t ref) const;
     TAtom ObjectAtom() const { return FObjectAtom; }
     /// The control behind a window; nil for windows that the toolkit does not know.
     HWinControl* ControlOf(HWnd window) const;
@@ -50,17 +52,24 @@ class HToolkit final : public TToolkit, public TScreen, public TMouse {
     /// Screen.CustomForms: the most recently focused one first.
     void AddForm(HCustomForm& form) { FForms.push_back(&form); }
     void RemoveForm(HCustomForm& form);
-    void FormActivated(HCustomForm& form);
-    void FormDeactivated(HCustomForm& form);
+    void FormFocused(HCustomForm& form);
     const std::vector<HCustomForm*>& Forms() const { return FForms; }
 
-    /// The graphic control that gets the mouse messages of its parent's captured window; nil for none.
-    HControl* CaptureControl() const { return FCaptureControl; }
-    void SetCaptureControl(HControl* control);
+    /// The form whose OnActivate was the last to fire; nil for none.
+    HCustomForm* FocusedForm() const { return FFocusedForm; }
+    void SetFocusedForm(HCustomForm* form) { FFocusedForm = form; }
+    /// Counts the moves of the focus between controls, so that a move sees that its own events made another.
+    unsigned FocusMoves() const { return FFocusMoves; }
+    unsigned CountFocusMove() { return ++FFocusMoves; }
 
-    /// Disables every enabled, visible top-level window but one and answers which.
-    std::vector<HWnd> DisableTaskWindows(HWnd except);
-    void EnableTaskWindows(const std::vector<HWnd>& windows);
+    /// The control that has captured the mouse: the captured window's own, or a graphic one on it.
+    HControl* CaptureControl() const;
+    void SetCaptureControl(HControl* control);
+    void ForgetCapture(const HControl& control);
+
+    /// Controls with an action, in the order of their linking.
+    const std::vector<HControl*>& ActionControls() const { return FActionControls; }
+    void ActionLinked(HControl& control, bool linked);
 
     // TToolkit, TScreen, TMouse
     TObject& Application() override;
@@ -85,8 +94,25 @@ class HToolkit final : public TToolkit, public TScreen, public TMouse {
     TAtom FObjectAtom = 0;
     std::vector<HCustomForm*> FForms;
     HCustomForm* FActiveForm = nullptr;
-    HControl* FCaptureControl = nullptr;
+    HCustomForm* FFocusedForm = nullptr;
+    unsigned FFocusMoves = 0;
+    /// A graphic control that gets the mouse messages of its parent's captured window.
+    HControl* FCaptureGraphic = nullptr;
+    std::vector<HControl*> FActionControls;
     std::unique_ptr<HApplication> FApplication;
+};
+
+/// While one of these lives, every window that could be used when it came up is disabled.
+class HTaskWindowsDisabled {
+ public:
+    explicit HTaskWindowsDisabled(HDesktop& desktop);
+    ~HTaskWindowsDisabled();
+    HTaskWindowsDisabled(const HTaskWindowsDisabled&) = delete;
+    HTaskWindowsDisabled& operator=(const HTaskWindowsDisabled&) = delete;
+
+ private:
+    HDesktop& FDesktop;
+    std::vector<HWnd> FWindows;
 };
 
 /// Fills the class table with everything that the headless toolkit knows.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/headless/HLimits.h"
 #include "platform/headless/toolkit/HForm.h"
 #include "platform/headless/toolkit/HToolkit.h"
 
@@ -14,10 +15,13 @@ HWinControl::~HWinControl() {
 // ------------------------------------------------------------------------------------------------ children
 
 void HWinControl::AddControl(HControl& control) {
-    if (control.IsWindowed())
-        FWindowed.push_back(static_cast<HWinControl*>(&control));
-    else
+    if (!control.IsWindowed()) {
         FGraphic.push_back(&control);
+        return;
+    }
+    auto& windowed = static_cast<HWinControl&>(control);
+    windowed.FOrder = ++FLastOrder;
+    FWindowed.push_back(&windowed);
 }
 
 void HWinControl::RemoveControl(HControl& control) {
@@ -34,16 +38,32 @@ void HWinControl::RemoveControl(HControl& control) {
 
 void HWinControl::SetControlIndex(HControl& control, int index) {
     const auto move = [&](auto& row, int at) {
-        const auto place = std::find(row.begin(), row.end(), &control);
-        if (place == row.end()) return;
+        const auto place = std::find(row.rbegin(), row.rend(), &control);
+        if (place == row.rend()) return;
         auto* moved = *place;
-        row.erase(place);
+        row.erase(std::next(place).base());
         row.insert(row.begin() + std::clamp(at, 0, static_cast<int>(row.size())), moved);
     };
-    if (control.IsWindowed())
-        move(FWindowed, index - static_cast<int>(FGraphic.size()));
-    else
+    if (!control.IsWindowed()) {
         move(FGraphic, index);
+        return;
+    }
+    move(FWindowed, index - static_cast<int>(FGraphic.size()));
+    Reorder(static_cast<HWinControl&>(control));
+}
+
+void HWinControl::Reorder(HWinControl& moved) {
+    if (FWindowed.back() == &moved) {
+        moved.FOrder = ++FLastOrder;
+    } else {
+        // The others keep their order among each other.
+        FLastOrder = 0;
+        for (HWinControl* control : FWindowed) {
+            control->FOrder = ++FLastOrder;
+            if (HWindow* window = Kit().Desktop().Find(control->FHandle)) window->Order = control->FOrder;
+        }
+    }
+    if (moved.FHandle) Kit().Desktop().SetWindowOrder(moved.FHandle, moved.FOrder);
 }
 
 TObject* HWinControl::Controls(int index) {
@@ -88,6 +108,7 @@ void HWinControl::CreateParams(HCreateParams& params) {
     params.Parent = parent ? parent->FHandle : Kit().App().Handle();
     params.Rect = HControl::BoundsRect();
     params.Insets = Insets();
+    params.Order = FOrder;
 }
 
 void HWinControl::CreateHandle() {
@@ -123,42 +144,57 @@ TRect HWinControl::ClientRect() {
 }
 
 TPoint HWinControl::ClientOrigin() {
-    if (const HWindow* window = Kit().Desktop().Find(FHandle)) return window->ClientOrigin();
-    const HInsets insets = Insets();
-    const TPoint origin = HControl::ClientOrigin();
-    return {origin.X + insets.Left, origin.Y + insets.Top};
+    std::int64_t x = 0, y = 0;
+    // Up to the first window that knows; the chain may be long.
+    for (HWinControl* step = this; step; step = step->ParentControl()) {
+        if (const HWindow* window = Kit().Desktop().Find(step->FHandle)) {
+            x += window->ClientOrigin().X;
+            y += window->ClientOrigin().Y;
+            break;
+        }
+        const HInsets insets = step->Insets();
+        x += step->Left() + insets.Left;
+        y += step->Top() + insets.Top;
+    }
+    const auto bound = [](std::int64_t value) {
+        return static_cast<std::int32_t>(
+            std::clamp<std::int64_t>(value, -HScreenCoordLimit, HScreenCoordLimit));
+    };
+    return {bound(x), bound(y)};
 }
 
 TRect HWinControl::ScreenRect() {
-    if (const HWindow* window = Kit().Desktop().Find(FHandle)) return window->Rect;
-    const TPoint origin = HControl::ClientOrigin();
-    return {origin.X, origin.Y, origin.X + Width(), origin.Y + Height()};
+    const HWindow* window = Kit().Desktop().Find(FHandle);
+    return window ? window->Rect : HControl::ScreenRect();
 }
 
 void HWinControl::SetBounds(const TRect& bounds) {
     HControl::SetBounds(bounds);
-    if (FHandle) Kit().Desktop().MoveWindow(FHandle, bounds);
+    if (FHandle) Kit().Desktop().MoveWindow(FHandle, HControl::BoundsRect());
 }
 
 void HWinControl::SetVisible(bool value) {
     if (IsVisible() == value) return;
     HControl::SetVisible(value);
+    if (!value) LeaveFocus(false);
     HWinControl* parent = ParentControl();
-    if (!value) {
-        if (FHandle) Kit().Desktop().ShowWindow(FHandle, false);
-        return;
-    }
-    if (parent && parent->FHandle) Realize();
-    if (FHandle) Kit().Desktop().ShowWindow(FHandle, true);
+    if (value && parent && parent->FHandle) Realize();
+    if (FHandle) Kit().Desktop().ShowWindow(FHandle, value);
 }
 
 void HWinControl::SetEnabled(bool value) {
+    if (IsEnabled() == value) return;
     HControl::SetEnabled(value);
+    if (!value) LeaveFocus(false);
     if (FHandle) Kit().Desktop().EnableWindow(FHandle, value);
 }
 
 void HWinControl::SetParent(HWinControl* parent) {
     if (ParentControl() == parent) return;
+    const bool hasControls = !FWindowed.empty() || !FGraphic.empty();
+    if (parent == this || (hasControls && parent && parent->IsWithin(this)))
+        throw EInvalidOperation("A control cannot have itself as its parent");
+    if (!Destroying()) LeaveFocus(true);
     DestroyHandle();
     HControl::SetParent(parent);
     if (parent && parent->FHandle && IsVisible()) Realize();
@@ -166,11 +202,21 @@ void HWinControl::SetParent(HWinControl* parent) {
 
 void HWinControl::BringToFront() {
     if (HWinControl* parent = ParentControl()) parent->SetControlIndex(*this, parent->ControlCount());
-    if (FHandle) Kit().Desktop().BringWindowToTop(FHandle);
+}
+
+void HWinControl::AddParts(std::vector<HComponent*>& parts) const {
+    HControl::AddParts(parts);
+    parts.insert(parts.end(), FGraphic.begin(), FGraphic.end());
+    parts.insert(parts.end(), FWindowed.begin(), FWindowed.end());
+}
+
+void HWinControl::BeforeDestruction() {
+    // What goes with its parent has lost the focus with it, and its window too.
+    if (!ParentControl() || !ParentControl()->Destroying()) LeaveFocus(true);
+    DestroyHandle();
 }
 
 void HWinControl::Detach() {
-    if (HCustomForm* form = ParentForm()) form->ControlGone(*this);
     DestroyHandle();
     HControl::Detach();
 }
@@ -195,21 +241,30 @@ void HWinControl::SetFocus() {
     form->FocusControl(*this);
 }
 
+void HWinControl::LeaveFocus(bool removing) {
+    HCustomForm* form = ParentForm();
+    if (form && form != this) form->Defocus(*this, removing);
+}
+
+void HWinControl::DoEnter() {
+    Fire(Kit().Names().OnEnter);
+}
+
+void HWinControl::DoExit() {
+    Fire(Kit().Names().OnExit);
+}
+
 // ------------------------------------------------------------------------------------------------ messages
 
-LResult HWinControl::WndProc(HWnd window, unsigned number, WParam wParam, LParam lParam) {
+LResult HWinControl::WndProc(HWnd, unsigned number, WParam wParam, LParam lParam) {
     HMessage message{number, wParam, lParam};
-    if (number == WM_DESTROY) {
-        // The window is going; the object may stay and make another one.
-        if (FHandle == window) FHandle = 0;
-        return 0;
-    }
-    try {
-        HandleMessage(message);
-    } catch (const std::exception& error) {
-        Kit().App().HandleException(error);
-    }
+    Kit().App().Guarded([&] { Receive(message); });
     return message.Result;
+}
+
+void HWinControl::WindowGone(HWnd window) {
+    // The object may stay and make another one.
+    if (FHandle == window) FHandle = 0;
 }
 
 void HWinControl::HandleMessage(HMessage& message) {
@@ -231,9 +286,16 @@ void HWinControl::HandleMessage(HMessage& message) {
             return;
         case WM_KEYDOWN:
         case WM_KEYUP:
+        case WM_SYSKEYDOWN:
+        case WM_SYSKEYUP:
         case WM_CHAR:
             KeyMessage(message);
             return;
+        case WM_CANCELMODE:
+            if (HControl* graphic = Kit().CaptureControl();
+                graphic && graphic->ParentControl() == this && !graphic->IsWindowed())
+                graphic->Perform(WM_CANCELMODE, 0, 0);
+            break;
         default:
             break;
     }
@@ -245,14 +307,9 @@ void HWinControl::HandleMessage(HMessage& message) {
 }
 
 bool HWinControl::PassToGraphic(HMessage& message) {
-    HControl* target = nullptr;
-    if (Kit().Desktop().GetCapture() == FHandle) {
-        HControl* capture = Kit().CaptureControl();
-        if (capture && capture->ParentControl() == this) target = capture;
-    } else {
-        target = GraphicAt(message.Point());
-    }
-    if (!target) return false;
+    const bool captured = Kit().Desktop().GetCapture() == FHandle;
+    HControl* target = captured ? Kit().CaptureControl() : GraphicAt(message.Point());
+    if (!target || target == this) return false;
     const TPoint p = message.Point();
     message.Result = target->Perform(message.Number, message.W,
                                      MakePointParam({p.X - target->Left(), p.Y - target->Top()}));
@@ -260,17 +317,17 @@ bool HWinControl::PassToGraphic(HMessage& message) {
 }
 
 void HWinControl::GotFocus(HMessage& message) {
-    if (HCustomForm* form = ParentForm()) form->ControlFocused(*this);
-    if (!Dead()) DefaultHandler(message);
+    HCustomForm* form = ParentForm();
+    if (form && !form->SetFocusedControl(*this)) return;
+    DefaultHandler(message);
 }
 
 void HWinControl::KeyMessage(HMessage& message) {
     const HNames& names = Kit().Names();
     HEventArgs args{.Value = static_cast<int>(message.W), .Point = {}};
     HCustomForm* form = ParentForm();
-    const TName event = message.Number == WM_KEYDOWN ? names.OnKeyDown
-                        : message.Number == WM_KEYUP ? names.OnKeyUp
-                                                     : names.OnKeyPress;
+    const bool down = message.Number == WM_KEYDOWN || message.Number == WM_SYSKEYDOWN;
+    const TName event = message.Number == WM_CHAR ? names.OnKeyPress : down ? names.OnKeyDown : names.OnKeyUp;
     if (form && form != this && form->KeyPreview()) form->Fire(event, args);
     if (args.Value && !Dead()) Fire(event, args);
     if (args.Value == 0 || Dead()) return;
@@ -294,6 +351,10 @@ void HWinControl::DefaultHandler(HMessage& message) {
         }
         case WM_SETTEXT:
             SetText(message.L ? reinterpret_cast<const char*>(message.L) : "");
+            message.Result = 1;
+            return;
+        case WM_CANCELMODE:
+            if (Kit().Desktop().GetCapture() == FHandle) Kit().Desktop().ReleaseCapture();
             return;
         default:
             return;

@@ -18,6 +18,8 @@ class HWinControl : public With<HControl, TWinControl>, public HWindowTarget {
     // TWinControl
     HWnd Handle() override;
     bool HandleAllocated() override { return FHandle != 0; }
+    /// The window as it is: 0 as long as there is none.
+    HWnd Window() const { return FHandle; }
     int ControlCount() override { return static_cast<int>(FGraphic.size() + FWindowed.size()); }
     TObject* Controls(int index) override;
     void SetFocus() override;
@@ -39,7 +41,7 @@ class HWinControl : public With<HControl, TWinControl>, public HWindowTarget {
     const std::vector<HWinControl*>& WindowedControls() const { return FWindowed; }
     void AddControl(HControl& control);
     void RemoveControl(HControl& control);
-    /// Puts a control at a place among all controls; used for a form file's order numbers.
+    /// Puts a control at a place among all controls.
     void SetControlIndex(HControl& control, int index);
 
     /// Visible and enabled, with every parent below the form.
@@ -56,11 +58,15 @@ class HWinControl : public With<HControl, TWinControl>, public HWindowTarget {
     /// Makes the windows of this control and of everything visible below it.
     void Realize();
     void DestroyHandle();
-    /// A key that dialogs treat themselves: True when it was used.
+    /// Whether the control wants a key that dialogs else treat themselves.
     virtual bool WantsKey(unsigned) { return false; }
+    /// The focus came to the control or one on it, or left it for another of the same form.
+    virtual void DoEnter();
+    virtual void DoExit();
 
     // HWindowTarget
     LResult WndProc(HWnd window, unsigned message, WParam wParam, LParam lParam) override;
+    void WindowGone(HWnd window) override;
     std::string JournalName() const override { return Path(); }
 
  protected:
@@ -71,15 +77,19 @@ class HWinControl : public With<HControl, TWinControl>, public HWindowTarget {
     virtual void DefaultHandler(HMessage& message);
     /// A notification that the control's own window sent to its parent.
     virtual void CNCommand(unsigned) {}
-    /// The windows go as one piece, from the top.
-    void BeforeDestruction() override { DestroyHandle(); }
+    void BeforeDestruction() override;
+    void AddParts(std::vector<HComponent*>& parts) const override;
     void Detach() override;
+    /// The form's focus goes elsewhere if it is on this control or one on it. Nobody is told of a control
+    /// that is being taken away.
+    void LeaveFocus(bool removing);
     /// Tells the parent's window, as a window class does: code in the high word.
     void NotifyParent(unsigned code);
     bool FTabStop = false;
 
  private:
     void CreateHandle();
+    void Reorder(HWinControl& moved);
     bool PassToGraphic(HMessage& message);
     void KeyMessage(HMessage& message);
     void GotFocus(HMessage& message);
@@ -88,6 +98,8 @@ class HWinControl : public With<HControl, TWinControl>, public HWindowTarget {
     std::vector<HWinControl*> FWindowed;
     HWnd FHandle = 0;
     int FTabOrder = -1;
+    /// Place among the parent's windowed controls, and the last one given out for controls on this one.
+    std::int64_t FOrder = 0, FLastOrder = 0;
 };
 
 }  // namespace rux

@@ -7,13 +7,27 @@
 
 namespace rux {
 
+namespace {
+
+std::int32_t OnScreen(std::int64_t coordinate) {
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(coordinate, -HScreenCoordLimit, HScreenCoordLimit));
+}
+
+/// Sums along a deep chain of parents stay within bounds.
+TRect Moved(const TRect& r, TPoint by) {
+    return {OnScreen(std::int64_t{r.Left} + by.X), OnScreen(std::int64_t{r.Top} + by.Y),
+            OnScreen(std::int64_t{r.Right} + by.X), OnScreen(std::int64_t{r.Bottom} + by.Y)};
+}
+
+}  // namespace
+
 HDesktop::HDesktop(TKernelService& kernel, TClockService& clock)
     : FKernel(kernel), FClock(clock), FThread(kernel.GetCurrentThreadId()), FQueue(kernel) {}
 
 HDesktop::~HDesktop() {
-    FQuit = true;
+    Quit();
     FQueue.Close();
-    RunSentMessages();
     while (!FTopLevel.empty()) DestroyWindow(FTopLevel.back()->Handle);
     FGraveyard.clear();
 }
@@ -26,6 +40,7 @@ std::vector<HWindow*>& HDesktop::Siblings(const HWindow& window) {
 
 HWnd HDesktop::CreateWindowA(const HCreateParams& params) {
     HWindow* above = FTable.Find(params.Parent);
+    if (above && above->Dying) return 0;
     if ((params.Style & WS_CHILD) && !above) return 0;
     HWindow* window = FTable.Add();
     if (!window) return 0;
@@ -36,45 +51,86 @@ HWnd HDesktop::CreateWindowA(const HCreateParams& params) {
     window->Insets = params.Insets;
     window->OwnedTarget = params.OwnedTarget;
     window->Target = params.OwnedTarget ? params.OwnedTarget.get() : params.Target;
-    window->Rect = params.Rect;
     if (window->IsChild()) {
         window->Parent = above;
-        window->Rect = params.Rect.MovedBy(above->ClientOrigin());
+        window->Rect = Moved(params.Rect, above->ClientOrigin());
+        window->Order = params.Order;
+        Place(*window);
     } else {
-        window->Owner = above;
+        window->Rect = Moved(params.Rect, {});
+        if (above) window->Owner = above->Top().Handle;
+        FTopLevel.push_back(window);
+        Raise(*window);
     }
-    Siblings(*window).push_back(window);
-    if (!window->IsChild()) Raise(*window);
     return window->Handle;
+}
+
+void HDesktop::Place(HWindow& window) {
+    std::vector<HWindow*>& row = window.Parent->Children;
+    if (window.Order == 0) window.Order = row.empty() ? 1 : row.back()->Order;
+    const auto below = [](std::int64_t order, const HWindow* other) { return order < other->Order; };
+    row.insert(std::upper_bound(row.begin(), row.end(), window.Order, below), &window);
+}
+
+void HDesktop::SetWindowOrder(HWnd handle, std::int64_t order) {
+    HWindow* window = FTable.Find(handle);
+    if (!window || !window->Parent) return;
+    std::erase(window->Parent->Children, window);
+    window->Order = order;
+    Place(*window);
+}
+
+std::vector<HWnd> HDesktop::Subtree(HWnd handle) const {
+    std::vector<HWnd> all;
+    // An explicit stack: windows may be nested deeper than the thread's stack.
+    std::vector<const HWindow*> pending;
+    if (const HWindow* root = FTable.Find(handle)) pending.push_back(root);
+    while (!pending.empty()) {
+        const HWindow* window = pending.back();
+        pending.pop_back();
+        all.push_back(window->Handle);
+        pending.insert(pending.end(), window->Children.begin(), window->Children.end());
+    }
+    return all;
+}
+
+void HDesktop::DestroyOwned(HWnd owner) {
+    std::vector<HWnd> owned;
+    for (const HWindow* top : FTopLevel)
+        if (top->Owner == owner) owned.push_back(top->Handle);
+    for (const HWnd window : owned) DestroyWindow(window);
 }
 
 void HDesktop::DestroyWindow(HWnd handle) {
     HWindow* root = FTable.Find(handle);
-    if (!root) return;
-    // What it owns goes first, as with the window system.
-    std::vector<HWnd> owned;
-    for (HWindow* top : FTopLevel)
-        if (top->Owner == root) owned.push_back(top->Handle);
-    for (const HWnd other : owned) DestroyWindow(other);
-    if (root->Visible()) ShowWindow(handle, false);
+    if (!root || root->Dying) return;
+    const THandling handling(*this);
+    // Nothing new may come to stand on what is going.
+    const std::vector<HWnd> doomed = Subtree(handle);
+    for (const HWnd window : doomed) FTable.Find(window)->Dying = true;
+    if (!root->IsChild()) DestroyOwned(handle);
+    ShowWindow(handle, false);
+    DropInput(handle);
+    for (const HWnd window : doomed) Notify(window, WM_DESTROY, 0, 0);
+    Remove(handle);
+}
 
-    std::vector<HWnd> doomed{handle};
-    EnumChildWindows(handle, [&](HWnd child) {
-        doomed.push_back(child);
-        return true;
-    });
-    for (const HWnd window : doomed) {
-        DropInput(window);
-        Notify(window, WM_DESTROY, 0, 0);
-    }
-    root = FTable.Find(handle);
+void HDesktop::Remove(HWnd handle) {
+    HWindow* root = FTable.Find(handle);
     if (!root) return;
+    const std::vector<HWnd> doomed = Subtree(handle);
     std::erase(Siblings(*root), root);
     for (const HWnd window : doomed) {
-        FQueue.Forget(window);
-        if (HWindow* dead = FTable.Find(window); dead && dead->OwnedTarget) Bury(dead->OwnedTarget);
+        HWindow* dead = FTable.Find(window);
+        HWindowTarget* target = dead->Target;
+        if (dead->OwnedTarget) Bury(std::move(dead->OwnedTarget));
         FTable.Remove(window);
+        if (target) target->WindowGone(window);
     }
+    FQueue.Forget([this](const TMessage& m) { return !FTable.Find(m.Window); });
+    // Handlers on the way may have given them back to it.
+    for (HWnd* held : {&FFocus, &FActive, &FCapture})
+        if (!FTable.Find(*held)) *held = 0;
 }
 
 bool HDesktop::ShowWindow(HWnd handle, bool visible) {
@@ -97,6 +153,11 @@ bool HDesktop::EnableWindow(HWnd handle, bool enabled) {
     if (!window) return false;
     const bool wasDisabled = !window->Enabled();
     if (enabled == !wasDisabled) return wasDisabled;
+    if (!enabled) {
+        Notify(handle, WM_CANCELMODE, 0, 0);
+        window = FTable.Find(handle);
+        if (!window || !window->Enabled()) return wasDisabled;
+    }
     window->Style ^= WS_DISABLED;
     if (!enabled) DropInput(handle);
     Notify(handle, WM_ENABLE, enabled ? 1 : 0, 0);
@@ -106,35 +167,36 @@ bool HDesktop::EnableWindow(HWnd handle, bool enabled) {
 void HDesktop::MoveWindow(HWnd handle, const TRect& rect) {
     HWindow* window = FTable.Find(handle);
     if (!window) return;
-    const TRect screen = window->Parent ? rect.MovedBy(window->Parent->ClientOrigin()) : rect;
+    const TRect screen = Moved(rect, window->Parent ? window->Parent->ClientOrigin() : TPoint{});
     const TPoint by{screen.Left - window->Rect.Left, screen.Top - window->Rect.Top};
     const bool resized = screen.Width() != window->Rect.Width() || screen.Height() != window->Rect.Height();
-    if (by != TPoint{}) {
-        EnumChildWindows(handle, [&](HWnd child) {
-            HWindow* below = FTable.Find(child);
-            below->Rect = below->Rect.MovedBy(by);
-            return true;
-        });
-    }
+    if (by != TPoint{}) MoveBelow(handle, by);
     window->Rect = screen;
     if (by != TPoint{}) Notify(handle, WM_MOVE, 0, 0);
     if (resized) Notify(handle, WM_SIZE, 0, 0);
 }
 
+void HDesktop::MoveBelow(HWnd handle, TPoint by) {
+    for (const HWnd window : Subtree(handle)) {
+        if (window == handle) continue;
+        HWindow* below = FTable.Find(window);
+        below->Rect = Moved(below->Rect, by);
+    }
+}
+
 void HDesktop::SetInsets(HWnd handle, const HInsets& insets) {
     HWindow* window = FTable.Find(handle);
     if (!window) return;
-    const TPoint by{insets.Left - window->Insets.Left, insets.Top - window->Insets.Top};
+    MoveBelow(handle, {insets.Left - window->Insets.Left, insets.Top - window->Insets.Top});
     window->Insets = insets;
-    EnumChildWindows(handle, [&](HWnd child) {
-        HWindow* below = FTable.Find(child);
-        below->Rect = below->Rect.MovedBy(by);
-        return true;
-    });
 }
 
 void HDesktop::Raise(HWindow& window) {
     std::vector<HWindow*>& row = Siblings(window);
+    if (window.IsChild()) {
+        SetWindowOrder(window.Handle, row.back()->Order + 1);
+        return;
+    }
     std::erase(row, &window);
     auto place = row.end();
     // Nothing but another top-most window may stand above a top-most one.
@@ -149,10 +211,10 @@ void HDesktop::BringWindowToTop(HWnd handle) {
     Raise(*window);
     if (window->IsChild()) return;
     // Owned windows stay above their owner, in the order that they had.
-    std::vector<HWindow*> owned;
-    for (HWindow* top : FTopLevel)
-        if (top->Owner == window) owned.push_back(top);
-    for (HWindow* top : owned) BringWindowToTop(top->Handle);
+    std::vector<HWnd> owned;
+    for (const HWindow* top : FTopLevel)
+        if (top->Owner == handle) owned.push_back(top->Handle);
+    for (const HWnd top : owned) BringWindowToTop(top);
 }
 
 bool HDesktop::IsWindowVisible(HWnd handle) {
@@ -192,31 +254,15 @@ std::uint32_t HDesktop::GetWindowProcessId(HWnd window) {
 }
 
 void HDesktop::EnumWindows(const TEnumWindowsProc& proc) {
-    const std::vector<HWindow*> order(FTopLevel.rbegin(), FTopLevel.rend());
     std::vector<HWnd> handles;
-    handles.reserve(order.size());
-    for (const HWindow* window : order) handles.push_back(window->Handle);
+    for (auto step = FTopLevel.rbegin(); step != FTopLevel.rend(); ++step) handles.push_back((*step)->Handle);
     for (const HWnd handle : handles)
         if (FTable.Find(handle) && !proc(handle)) return;
 }
 
 void HDesktop::EnumChildWindows(HWnd parent, const TEnumWindowsProc& proc) {
-    const HWindow* root = FTable.Find(parent);
-    if (!root) return;
-    // An explicit stack: windows may be nested deeper than the thread's stack.
-    std::vector<HWnd> pending;
-    const auto push = [&](const HWindow& window) {
-        for (const HWindow* child : window.Children) pending.push_back(child->Handle);
-    };
-    push(*root);
-    while (!pending.empty()) {
-        const HWnd handle = pending.back();
-        pending.pop_back();
-        const HWindow* window = FTable.Find(handle);
-        if (!window) continue;
-        push(*window);
-        if (!proc(handle)) return;
-    }
+    for (const HWnd handle : Subtree(parent))
+        if (handle != parent && FTable.Find(handle) && !proc(handle)) return;
 }
 
 TPoint HDesktop::ClientToScreen(HWnd handle, TPoint point) {
@@ -235,8 +281,10 @@ TPoint HDesktop::ScreenToClient(HWnd handle, TPoint point) {
 
 TAtom HDesktop::GlobalAddAtomA(const std::string& name) {
     const std::lock_guard lock(FSharedLock);
-    const auto next = static_cast<TAtom>(0xC000 + FAtoms.size());
-    return FAtoms.emplace(UpperCase(name), next).first->second;
+    const std::string key = UpperCase(name);
+    if (const auto found = FAtoms.find(key); found != FAtoms.end()) return found->second;
+    if (FAtoms.size() >= HAtomLimit) return 0;
+    return FAtoms[key] = static_cast<TAtom>(0xC000 + FAtoms.size());
 }
 
 TAtom HDesktop::GlobalFindAtomA(const std::string& name) {
@@ -246,7 +294,14 @@ TAtom HDesktop::GlobalFindAtomA(const std::string& name) {
 }
 
 void HDesktop::SetPropA(HWnd handle, TAtom atom, std::uintptr_t value) {
-    if (HWindow* window = FTable.Find(handle)) window->Props.emplace_back(atom, value);
+    HWindow* window = FTable.Find(handle);
+    if (!window) return;
+    for (auto& [key, kept] : window->Props) {
+        if (key != atom) continue;
+        kept = value;
+        return;
+    }
+    window->Props.emplace_back(atom, value);
 }
 
 std::uintptr_t HDesktop::GetPropA(HWnd handle, TAtom atom) {
@@ -264,8 +319,7 @@ void HDesktop::Bury(std::shared_ptr<void> dead) {
 void HDesktop::EmptyGraveyard() {
     if (FDepth > 0 || FGraveyard.empty()) return;
     // A destructor may bury more.
-    const std::vector<std::shared_ptr<void>> dead = std::move(FGraveyard);
-    FGraveyard.clear();
+    const std::vector<std::shared_ptr<void>> dead = std::exchange(FGraveyard, {});
 }
 
 }  // namespace rux

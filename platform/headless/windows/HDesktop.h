@@ -26,7 +26,8 @@ namespace rux {
 
 class HDesktop final : public TWindowService {
  public:
-    /// Reports an error that a procedure installed from outside let through: the application's own report.
+    /// Reports an error that a procedure installed from outside let through: the application's own report,
+    /// which raises nothing itself.
     using TReport = std::function<void(const std::exception&)>;
 
     HDesktop(TKernelService& kernel, TClockService& clock);
@@ -47,6 +48,9 @@ class HDesktop final : public TWindowService {
     void MoveWindow(HWnd window, const TRect& rect);
     void SetInsets(HWnd window, const HInsets& insets);
     void BringWindowToTop(HWnd window);
+    /// Puts a child window among its siblings; see HCreateParams.
+    void SetWindowOrder(HWnd window, std::int64_t order);
+    /// 0 when there are too many.
     TAtom GlobalAddAtomA(const std::string& name);
     void SetPropA(HWnd window, TAtom atom, std::uintptr_t value);
 
@@ -58,31 +62,47 @@ class HDesktop final : public TWindowService {
     HWnd GetCapture() const { return FCapture; }
     void SetCapture(HWnd window);
     void ReleaseCapture() { SetCapture(0); }
+    /// Ends what the mouse is in the middle of: something modal is about to begin.
+    void CancelMode();
     TPoint GetCursorPos() const { return FCursor; }
     /// Clipped to the screen.
     void SetCursorPos(TPoint point);
+    /// As of the input that was taken out last, not of what still waits.
     bool KeyIsDown(unsigned key) const { return FKeys[key & 0xFF]; }
 
     // The message loop.
-    /// Waits for the next message. False when the loops are to end; every further call answers False too.
-    bool GetMessage(TMessage& message);
-    /// The same without waiting: False also when there is none.
+    /// Takes the next message out. False when there is none, and always once the loops are to end.
     bool PeekAny(TMessage& message);
+    /// Waits until there may be a message, a message from another thread has been handled, or the loops are
+    /// to end.
+    void WaitMessage();
     void DispatchMessage(const TMessage& message);
-    /// Makes all loops end. Any thread.
+    /// Makes all loops end, and everybody whose sent message has not been handled go on. Any thread.
     void Quit();
     bool Quitting() const { return FQuit; }
     /// What a window's own procedure leaves to the system.
     LResult DefWindowProc(HWnd window, unsigned message, WParam wParam, LParam lParam);
     /// Sends without a line in the journal: the system's own notifications.
     LResult Notify(HWnd window, unsigned message, WParam wParam, LParam lParam);
-    /// Keeps something that is dead until no message is being handled any more.
+    /// While one of these lives, code of the application may be running, and nothing that is buried is freed.
+    class THandling {
+     public:
+        explicit THandling(HDesktop& desktop) : FDesktop(desktop) { ++FDesktop.FDepth; }
+        ~THandling() { --FDesktop.FDepth; }
+        THandling(const THandling&) = delete;
+        THandling& operator=(const THandling&) = delete;
+
+     private:
+        HDesktop& FDesktop;
+    };
+    /// Keeps something that is dead until nothing is being handled any more.
     void Bury(std::shared_ptr<void> dead);
-    /// Frees what was buried, if no message is being handled.
+    /// Frees what was buried, if nothing is being handled.
     void EmptyGraveyard();
 
     using TTimerProc = std::function<void()>;
-    /// Calls `proc` every `milliseconds` from the message loop. Answers the timer's number.
+    /// Calls `proc` every `milliseconds` from the message loop. What it raises is reported. Answers the
+    /// timer's number.
     unsigned SetTimer(std::uint32_t milliseconds, TTimerProc proc);
     void KillTimer(unsigned timer);
 
@@ -123,16 +143,25 @@ class HDesktop final : public TWindowService {
 
     LResult CallTarget(HWnd window, unsigned message, WParam wParam, LParam lParam);
     LResult SendFromOtherThread(HWnd window, unsigned message, WParam wParam, LParam lParam);
-    void RunSentMessages();
+    /// False when there were none.
+    bool RunSentMessages();
     bool NextMessage(TMessage& message);
     bool ResolveKey(TMessage& message);
     bool DueTimer(TMessage& message);
     std::uint32_t TimeToNextTimer();
     void RunTimer(unsigned timer);
     void TranslateKey(const TMessage& message);
+    template <class Code>
+    void Report(Code code);
 
     std::vector<HWindow*>& Siblings(const HWindow& window);
+    void Place(HWindow& window);
     void Raise(HWindow& window);
+    /// The window and everything below it, each directly followed by its own children, from the top.
+    std::vector<HWnd> Subtree(HWnd window) const;
+    void MoveBelow(HWnd window, TPoint by);
+    void DestroyOwned(HWnd owner);
+    void Remove(HWnd window);
     void ActivateNext(HWnd leaving);
     void DropInput(HWnd window);
     void JournalMessage(HEntry kind, const char* verb, HWnd window, unsigned message, WParam wParam,

@@ -1,6 +1,7 @@
 // Messages of the desktop: sending, posting, the loop, timers, window procedures.
 #include <algorithm>
 
+#include "platform/headless/HLimits.h"
 #include "platform/headless/windows/HDesktop.h"
 #include "platform/headless/windows/HMessageNames.h"
 #include "rtl/Exceptions.h"
@@ -32,12 +33,9 @@ LResult HDesktop::CallTarget(HWnd handle, unsigned message, WParam wParam, LPara
 LResult HDesktop::Notify(HWnd handle, unsigned message, WParam wParam, LParam lParam) {
     const HWindow* window = FTable.Find(handle);
     if (!window) return 0;
-    ++FDepth;
-    const LResult result = window->Override
-                               ? CallWindowProcA(window->Override, handle, message, wParam, lParam)
-                               : CallTarget(handle, message, wParam, lParam);
-    --FDepth;
-    return result;
+    const THandling handling(*this);
+    return window->Override ? CallWindowProcA(window->Override, handle, message, wParam, lParam)
+                            : CallTarget(handle, message, wParam, lParam);
 }
 
 LResult HDesktop::SendMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) {
@@ -60,17 +58,17 @@ LResult HDesktop::SendFromOtherThread(HWnd window, unsigned message, WParam wPar
     return sent->Result;
 }
 
-void HDesktop::RunSentMessages() {
-    while (true) {
+bool HDesktop::RunSentMessages() {
+    for (bool any = false;; any = true) {
         std::shared_ptr<TSentMessage> sent;
         {
             const std::lock_guard lock(FSharedLock);
-            if (FSent.empty()) return;
+            if (FSent.empty()) return any;
             sent = FSent.front();
             FSent.pop_front();
         }
         const TMessage& m = sent->Message;
-        if (!FQuit) sent->Result = SendMessageA(m.Window, m.Number, m.WParameter, m.LParameter);
+        sent->Result = SendMessageA(m.Window, m.Number, m.WParameter, m.LParameter);
         sent->Done->SetEvent();
     }
 }
@@ -90,8 +88,10 @@ bool HDesktop::PeekMessageA(TMessage& message, HWnd window, unsigned first, unsi
 
 unsigned HDesktop::RegisterWindowMessageA(const std::string& name) {
     const std::lock_guard lock(FSharedLock);
-    const auto next = WM_REGISTERED_FIRST + static_cast<unsigned>(FRegistered.size());
-    return FRegistered.emplace(UpperCase(name), next).first->second;
+    const std::string key = UpperCase(name);
+    if (const auto found = FRegistered.find(key); found != FRegistered.end()) return found->second;
+    if (FRegistered.size() >= HAtomLimit) return 0;
+    return FRegistered[key] = WM_REGISTERED_FIRST + static_cast<unsigned>(FRegistered.size());
 }
 
 // ---------------------------------------------------------------------------------------------- procedures
@@ -127,14 +127,21 @@ LResult HDesktop::CallWindowProcA(TWndProc procedure, HWnd window, unsigned mess
     if (found == FProcs.end()) return 0;
     // The procedure may free its own instance while it runs.
     const std::shared_ptr<TWindowProcedure> function = found->second;
+    LResult result = 0;
+    Report([&] { result = (*function)(window, message, wParam, lParam); });
+    return result;
+}
+
+/// The border around other people's procedures.
+template <class Code>
+void HDesktop::Report(Code code) {
     try {
-        return (*function)(window, message, wParam, lParam);
+        code();
     } catch (const std::exception& error) {
         if (FReport) FReport(error);
     } catch (...) {
         if (FReport) FReport(Exception("Unknown exception"));
     }
-    return 0;
 }
 
 LResult HDesktop::DefWindowProc(HWnd handle, unsigned message, WParam wParam, LParam lParam) {
@@ -157,6 +164,9 @@ LResult HDesktop::DefWindowProc(HWnd handle, unsigned message, WParam wParam, LP
         case WM_CLOSE:
             DestroyWindow(handle);
             return 0;
+        case WM_CANCELMODE:
+            if (FCapture == handle) ReleaseCapture();
+            return 0;
         default:
             return 0;
     }
@@ -166,28 +176,39 @@ LResult HDesktop::DefWindowProc(HWnd handle, unsigned message, WParam wParam, LP
 
 bool HDesktop::NextMessage(TMessage& message) {
     RunSentMessages();
-    while (const std::optional<TMessage> taken = FQueue.Take()) {
-        message = *taken;
-        if (message.Window == 0 ? ResolveKey(message) : FTable.Find(message.Window) != nullptr) return true;
+    while (const std::optional<TMessage> posted = FQueue.Take()) {
+        message = *posted;
+        if (FTable.Find(message.Window)) return true;
+    }
+    while (const std::optional<TMessage> input = FQueue.TakeInput()) {
+        message = *input;
+        if (ResolveKey(message)) return true;
     }
     return DueTimer(message);
 }
 
-bool HDesktop::GetMessage(TMessage& message) {
-    while (!FQuit) {
-        if (NextMessage(message)) return true;
-        EmptyGraveyard();
-        if (!FQuit) FQueue.Wait(TimeToNextTimer());
-    }
-    return false;
-}
-
 bool HDesktop::PeekAny(TMessage& message) {
+    EmptyGraveyard();
     return !FQuit && NextMessage(message);
 }
 
+void HDesktop::WaitMessage() {
+    EmptyGraveyard();
+    while (!FQuit && !RunSentMessages() && FQueue.Empty()) {
+        const std::uint32_t time = TimeToNextTimer();
+        if (time == 0) return;
+        FQueue.Wait(time);
+    }
+}
+
 void HDesktop::Quit() {
-    FQuit = true;
+    std::deque<std::shared_ptr<TSentMessage>> waiting;
+    {
+        const std::lock_guard lock(FSharedLock);
+        FQuit = true;
+        waiting.swap(FSent);
+    }
+    for (const std::shared_ptr<TSentMessage>& sent : waiting) sent->Done->SetEvent();
     FQueue.Wake();
 }
 
@@ -234,9 +255,8 @@ void HDesktop::RunTimer(unsigned number) {
     const auto found = FTimers.find(number);
     if (found == FTimers.end()) return;
     const TTimerProc proc = found->second.Proc;
-    ++FDepth;
-    proc();
-    --FDepth;
+    const THandling handling(*this);
+    Report(proc);
 }
 
 void HDesktop::JournalMessage(HEntry kind, const char* verb, HWnd handle, unsigned message, WParam wParam,

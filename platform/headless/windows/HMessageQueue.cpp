@@ -6,43 +6,51 @@
 
 namespace rux {
 
-bool HMessageQueue::Put(const TMessage& message) {
+bool HMessageQueue::PutInto(std::deque<TMessage>& row, const TMessage& message) {
     {
         const std::lock_guard lock(FLock);
-        if (FClosed || FMessages.size() >= HQueueLimit) return false;
-        FMessages.push_back(message);
+        if (FClosed || row.size() >= HQueueLimit) return false;
+        row.push_back(message);
     }
     FWake->SetEvent();
     return true;
 }
 
-std::optional<TMessage> HMessageQueue::Take() {
+std::optional<TMessage> HMessageQueue::TakeFrom(std::deque<TMessage>& row) {
     const std::lock_guard lock(FLock);
-    if (FMessages.empty()) return std::nullopt;
-    const TMessage message = FMessages.front();
-    FMessages.pop_front();
+    if (row.empty()) return std::nullopt;
+    const TMessage message = row.front();
+    row.pop_front();
     return message;
+}
+
+std::optional<TMessage> HMessageQueue::Take() {
+    return TakeFrom(FPosted);
+}
+
+std::optional<TMessage> HMessageQueue::TakeInput() {
+    return TakeFrom(FInput);
 }
 
 std::optional<TMessage> HMessageQueue::TakeOf(HWnd window, unsigned first, unsigned last) {
     const std::lock_guard lock(FLock);
-    const auto found = std::find_if(FMessages.begin(), FMessages.end(), [&](const TMessage& m) {
+    const auto found = std::find_if(FPosted.begin(), FPosted.end(), [&](const TMessage& m) {
         return m.Window == window && m.Number >= first && m.Number <= last;
     });
-    if (found == FMessages.end()) return std::nullopt;
+    if (found == FPosted.end()) return std::nullopt;
     const TMessage message = *found;
-    FMessages.erase(found);
+    FPosted.erase(found);
     return message;
 }
 
-void HMessageQueue::Forget(HWnd window) {
+void HMessageQueue::Forget(const std::function<bool(const TMessage&)>& which) {
     const std::lock_guard lock(FLock);
-    std::erase_if(FMessages, [&](const TMessage& m) { return m.Window == window; });
+    std::erase_if(FPosted, which);
 }
 
 bool HMessageQueue::Empty() {
     const std::lock_guard lock(FLock);
-    return FMessages.empty();
+    return FPosted.empty() && FInput.empty();
 }
 
 void HMessageQueue::Close() {

@@ -23,6 +23,9 @@ class HWindowTarget {
     virtual ~HWindowTarget() = default;
     /// Lets no exception through: it reports what its own code raises.
     virtual LResult WndProc(HWnd window, unsigned message, WParam wParam, LParam lParam) = 0;
+    /// The window exists no more, whether or not WM_DESTROY reached the target's own procedure. Must not call
+    /// back into the window system.
+    virtual void WindowGone(HWnd) {}
     /// Short name for the journal, such as "Form1.Button1".
     virtual std::string JournalName() const = 0;
 };
@@ -39,10 +42,13 @@ struct HWindow {
     std::uint32_t ExStyle = 0;
     /// Set for child windows only.
     HWindow* Parent = nullptr;
-    /// Set for top-level windows that stay above another one.
-    HWindow* Owner = nullptr;
-    /// From the bottom of the stacking order to its top.
+    /// The top-level window that a top-level window stays above; 0 for none.
+    HWnd Owner = 0;
+    /// From the bottom of the stacking order to its top, that is by Order.
     std::vector<HWindow*> Children;
+    std::int64_t Order = 0;
+    /// Being destroyed: it takes no new children.
+    bool Dying = false;
     /// On the screen, kept absolute so that asking costs nothing.
     TRect Rect;
     HInsets Insets;
@@ -57,6 +63,11 @@ struct HWindow {
     bool Visible() const { return (Style & WS_VISIBLE) != 0; }
     bool Enabled() const { return (Style & WS_DISABLED) == 0; }
     bool IsChild() const { return (Style & WS_CHILD) != 0; }
+    const HWindow& Top() const {
+        const HWindow* top = this;
+        while (top->Parent) top = top->Parent;
+        return *top;
+    }
     TPoint ClientOrigin() const { return {Rect.Left + Insets.Left, Rect.Top + Insets.Top}; }
     TRect ClientRect() const {
         return {0, 0, Rect.Width() - Insets.Left - Insets.Right, Rect.Height() - Insets.Top - Insets.Bottom};
@@ -74,6 +85,8 @@ struct HCreateParams {
     /// In the parent's client area for child windows, else on the screen.
     TRect Rect;
     HInsets Insets;
+    /// Place of a child window among its siblings; of equal ones the newest stands on top.
+    std::int64_t Order = 0;
     HWindowTarget* Target = nullptr;
     /// Set when the window is to own its target.
     std::shared_ptr<HWindowTarget> OwnedTarget;

@@ -1,0 +1,136 @@
+// Trees, list views, headers, rich edits, combo boxes with pictures.
+#include "platform/headless/classes/HClassTables.h"
+#include "platform/headless/toolkit/HEdits.h"
+#include "platform/headless/toolkit/HLists.h"
+
+namespace rux {
+
+namespace {
+
+class HCustomRichEdit : public HCustomMemo {
+ public:
+    HCustomRichEdit(HToolkit& kit, const HClassDef& def) : HCustomMemo(kit, def, "TRichEditStrings") {}
+};
+
+/// A view with a border that the keyboard reaches.
+class HView : public HBorderedControl {
+ public:
+    HView(HToolkit& kit, const HClassDef& def) : HBorderedControl(kit, def) { FTabStop = true; }
+};
+
+HRows ViewRows() {
+    return Join({Framed(),
+                 Aligned(),
+                 Bevelled(),
+                 Objects({"StateImages"}),
+                 Bools({"HotTrack", "MultiSelect", "ReadOnly", "RowSelect"}),
+                 Bools({"HideSelection"}, true),
+                 Ints({"BorderWidth"}),
+                 {KeptEnum("SortType", "TSortType")}});
+}
+
+void RegisterTree(HClasses& classes) {
+    // The nodes of a form file are kept as the bytes they are.
+    classes.Add("TTreeNodes", "TPersistent");
+    classes.Add("TCustomTreeView", "TWinControl", HMake<HView>);
+    classes.Add("TTreeView", "TCustomTreeView", nullptr,
+                Join({ViewRows(),
+                      Bools({"AutoExpand", "RightClickSelect"}),
+                      Bools({"ShowButtons", "ShowLines", "ShowRoot", "ToolTips"}, true),
+                      Ints({"ChangeDelay"}),
+                      Objects({"Images"}),
+                      {KeptInt("BevelWidth", 1), KeptInt("Indent", 19), KeptPart("Items", "TTreeNodes"),
+                       KeptSet("MultiSelectStyle", "TMultiSelectStyles", "msControlSelect")}}));
+}
+
+void RegisterList(HClasses& classes) {
+    classes.Add("TListItems", "TPersistent");
+    classes.Add(
+        "TIconOptions", "TPersistent", nullptr,
+        {KeptEnum("Arrangement", "TIconArrangement"), KeptBool("AutoArrange"), KeptBool("WrapText", true)});
+    classes.Add("TListColumn", "TCollectionItem", nullptr,
+                {KeptEnum("Alignment", "TAlignment"), KeptBool("AutoSize"), KeptText("Caption"),
+                 KeptInt("ImageIndex", -1), KeptInt("MaxWidth"), KeptInt("MinWidth"), KeptInt("Tag"),
+                 KeptInt("Width", 50)});
+    classes.AddCollection("TListColumns", "TListColumn");
+    classes.Add("TCustomListView", "TCustomMultiSelectListControl", HMake<HView>);
+    classes.Add(
+        "TListView", "TCustomListView", nullptr,
+        Join({ViewRows(),
+              Acting(),
+              Bools({"Checkboxes", "FlatScrollBars", "FullDrag", "GridLines", "OwnerData", "OwnerDraw",
+                     "ShowWorkAreas"}),
+              Bools({"ColumnClick", "ShowColumnHeaders"}, true),
+              Ints({"AllocBy"}),
+              Objects({"LargeImages", "SmallImages"}),
+              {KeptPart("Columns", "TListColumns"), KeptPart("IconOptions", "TIconOptions"),
+               KeptPart("Items", "TListItems"), KeptInt("HoverTime", -1),
+               KeptSet("HotTrackStyles", "TListHotTrackStyle"), KeptEnum("ViewStyle", "TViewStyle")}}));
+}
+
+void RegisterHeader(HClasses& classes) {
+    classes.Add("THeaderSection", "TCollectionItem", nullptr,
+                {KeptEnum("Alignment", "TAlignment"), KeptBool("AllowClick", true), KeptBool("AutoSize"),
+                 KeptEnum("BiDiMode", "TBiDiMode"), KeptInt("ImageIndex", -1), KeptInt("MaxWidth", 10000),
+                 KeptInt("MinWidth"), KeptBool("ParentBiDiMode", true),
+                 KeptEnum("Style", "THeaderSectionStyle"), KeptText("Text"), KeptInt("Width", 50)});
+    classes.AddCollection("THeaderSections", "THeaderSection");
+    classes.Add("TCustomHeaderControl", "TWinControl", HMakeAligned<HWinControl, HAlign::alTop>);
+    classes.Add("THeaderControl", "TCustomHeaderControl", nullptr,
+                Join({Basic(),
+                      Lettered(),
+                      Aligned(),
+                      Bools({"DragReorder", "HotTrack"}),
+                      Bools({"FullDrag"}, true),
+                      Ints({"BorderWidth"}),
+                      Objects({"Images"}),
+                      {KeptPart("Sections", "THeaderSections"), KeptEnum("Style", "THeaderStyle")}}));
+}
+
+void RegisterComboBoxEx(HClasses& classes) {
+    classes.Add("TListControlItem", "TCollectionItem", nullptr,
+                {KeptText("Caption"), KeptInt("ImageIndex", -1)});
+    classes.Add("TComboExItem", "TListControlItem", nullptr,
+                {KeptInt("Indent", -1), KeptInt("OverlayImageIndex", -1), KeptInt("SelectedImageIndex", -1)});
+    classes.AddCollection("TComboExItems", "TComboExItem");
+    classes.Add("TCustomComboBoxEx", "TCustomCombo", HMake<HInputControl>);
+    classes.Add("TComboBoxEx", "TCustomComboBoxEx", nullptr,
+                Join({Windowed(),
+                      Acting(),
+                      Texted(),
+                      Coloured(),
+                      ThreeD(),
+                      Typing(),
+                      Objects({"Images"}),
+                      Ints({"MaxLength"}),
+                      {KeptSet("AutoCompleteOptions", "TAutoCompleteOption", "acoAutoAppend"),
+                       KeptInt("DropDownCount", 8), KeptInt("ItemHeight", 16), KeptInt("ItemIndex", -1),
+                       KeptPart("ItemsEx", "TComboExItems"), KeptEnum("Style", "TComboBoxExStyle"),
+                       KeptSet("StyleEx", "TComboBoxExStyleEx")}}));
+}
+
+}  // namespace
+
+void RegisterViewClasses(HClasses& classes) {
+    RegisterTree(classes);
+    RegisterList(classes);
+    RegisterHeader(classes);
+    RegisterComboBoxEx(classes);
+    classes.Add("TCustomRichEdit", "TCustomMemo", HMake<HCustomRichEdit>);
+    classes.Add("TRichEdit", "TCustomRichEdit", nullptr,
+                Join({Framed(),
+                      Aligned(),
+                      Bevelled(),
+                      Typing(),
+                      Bools({"PlainText"}),
+                      Bools({"HideScrollBars", "HideSelection", "WordWrap"}, true),
+                      Ints({"BorderWidth"}),
+                      {HReadOnly<&HCustomMemo::Lines>("Lines"), KeptEnum("Alignment", "TAlignment"),
+                       HProp<&HCustomEdit::IsReadOnly, &HCustomEdit::SetReadOnly>("ReadOnly"),
+                       HProp<&HCustomEdit::MaxLength, &HCustomEdit::SetMaxLength>("MaxLength"),
+                       HProp<&HCustomMemo::WantReturns, &HCustomMemo::SetWantReturns>("WantReturns"),
+                       HProp<&HCustomMemo::WantTabs, &HCustomMemo::SetWantTabs>("WantTabs"),
+                       KeptEnum("ScrollBars", "TScrollStyle")}}));
+}
+
+}  // namespace rux

@@ -24,8 +24,8 @@ class TBenchEngine {
 
     HToolkit& Kit() { return Desktop.Toolkit(); }
 
-    /// A form with `count` controls in panels of up to `inPanel` each, half of them labels. The caption of control
-    /// i is "caption <i>".
+    /// A form with `count` controls in panels of up to `inPanel` each, half of them labels. The caption of
+    /// control i is "caption <i>".
     HCustomForm& MakeForm(int count, int inPanel = 20) {
         auto form = Kit().MakeAs<HCustomForm>("TForm");
         form->SetText("bench");
@@ -39,8 +39,8 @@ class TBenchEngine {
             auto& made = static_cast<HControl&>(kept.Own(std::move(control)));
             const int place = panel ? i / inPanel : i % inPanel;
             const int side = panel ? 100 : 4, row = panel ? 30 : 400;
-            made.SetBounds(
-                {place % row * side, place / row * side, place % row * side + side, place / row * side + side});
+            made.SetBounds({place % row * side, place / row * side, place % row * side + side,
+                            place / row * side + side});
             made.SetParent(panel ? static_cast<HWinControl*>(&kept) : parent);
             if (panel) parent = static_cast<HWinControl*>(&made);
         }

@@ -46,7 +46,8 @@ class TTaskCenterHolder {
     void Bury(TObjectPool pool);
 
  private:
-    /// Shared by those who post: whom a post wakes posts itself, and must not wait for the first one to go on.
+    /// Shared by those who post: whom a post wakes posts itself, and must not wait for the first one to go
+    /// on.
     std::shared_mutex FLock;
     ITaskCenter* FCenter = nullptr;
 };

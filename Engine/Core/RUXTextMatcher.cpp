@@ -11,7 +11,9 @@ namespace {
 /// Captions of ordinary length are stripped of their blanks in place.
 constexpr std::size_t ShortText = 128;
 
-bool IsPlainByte(char c) { return static_cast<unsigned char>(c) < 0x80; }
+bool IsPlainByte(char c) {
+    return static_cast<unsigned char>(c) < 0x80;
+}
 
 }  // namespace
 

@@ -22,9 +22,9 @@ class TTextMatcher {
     bool FPartMatch;
 };
 
-/// Compares a text of the application with one of a script; blanks do not count in either. As a whole: case does
-/// not matter. As a part: case matters, and an empty text is part of nothing. The difference is kept: scripts
-/// rely on both.
+/// Compares a text of the application with one of a script; blanks do not count in either. As a whole: case
+/// does not matter. As a part: case matters, and an empty text is part of nothing. The difference is kept:
+/// scripts rely on both.
 bool MatchText(std::string_view actual, std::string_view expected, bool partMatch);
 
 }  // namespace rux

@@ -7,8 +7,8 @@
 
 namespace rux {
 
-/// Gives out pieces of one size from larger blocks. What is given back is given out again; when nothing is out,
-/// all blocks but the first go. One thread.
+/// Gives out pieces of one size from larger blocks. What is given back is given out again; when nothing is
+/// out, all blocks but the first go. One thread.
 class TFinderPool {
  public:
     static constexpr std::size_t PieceSize = 32;

@@ -8,7 +8,7 @@ std::size_t TObjectPool::Add(std::unique_ptr<TObject> object, const void* maker)
     const auto same = [&](const TEntry& entry) { return entry.Object.get() == object.get(); };
     const auto found = std::find_if(FObjects.begin(), FObjects.end(), same);
     if (found != FObjects.end()) {
-        object.release();  // it is here already
+        static_cast<void>(object.release());  // it is here already
         return static_cast<std::size_t>(found - FObjects.begin());
     }
     FObjects.push_back({std::move(object), maker});

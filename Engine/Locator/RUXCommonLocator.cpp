@@ -112,6 +112,7 @@ TIntf<ICommonLocator> TCommonLocator::SelectIndex(std::string_view indexText) {
 TIntf<ICommonLocator> TCommonLocator::FindNear(char direction, std::string_view remainder) {
     const TIntf<ICommonLocator> found = FParser.Search(remainder);
     std::vector<TRect> bounds;
+    bounds.reserve(static_cast<std::size_t>(found->GetCount()));
     for (int i = 0; i < found->GetCount(); ++i) bounds.push_back(found->GetItem(i)->GetBounds());
     const TNearest nearest(std::move(bounds));
     const TIntf<TCommonLocator> result = NewList();

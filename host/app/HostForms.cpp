@@ -1,11 +1,8 @@
 #include "host/app/HostForms.h"
 
-#include <cerrno>
-#include <cstring>
-#include <fstream>
 #include <memory>
-#include <sstream>
 
+#include "host/InputFile.h"
 #include "host/sample/Orders.h"
 #include "host/sample/OrdersForms.h"
 #include "platform/headless/forms/FormParser.h"
@@ -16,30 +13,19 @@
 
 namespace rux {
 
-namespace {
-
-std::string ReadFile(const std::string& name) {
-    std::ifstream file(name, std::ios::binary);
-    std::ostringstream bytes;
-    if (file) bytes << file.rdbuf();
-    if (!file) throw Exception(name + ": cannot be read (" + std::strerror(errno ? errno : EIO) + ")");
-    return bytes.str();
-}
-
-}  // namespace
-
 std::vector<TFormFile> ReadForms(const THostOptions& options) {
     std::vector<TFormFile> files;
     if (!options.Sample.empty())
         for (const TEmbeddedForm& form : OrdersForms())
             files.push_back(ParseFormFile(std::string(form.FileName), form.Bytes));
-    for (const std::string& name : options.FormFiles) files.push_back(ParseFormFile(name, ReadFile(name)));
+    for (const std::string& name : options.FormFiles)
+        files.push_back(ParseFormFile(name, ReadInputFile(name)));
     return files;
 }
 
 THostForms::THostForms(HToolkit& kit, const THostOptions& options, const std::vector<TFormFile>& files)
     : FKit(kit), FLoader(kit, FParents) {
-    if (!options.ClassFile.empty()) FParents.Load(options.ClassFile, ReadFile(options.ClassFile));
+    if (!options.ClassFile.empty()) FParents.Load(options.ClassFile, ReadInputFile(options.ClassFile));
     if (!options.Sample.empty()) FLoader.SetRootHook(AttachOrdersCode);
     FRoots = FLoader.Load(files);
     for (HComponent* root : FRoots)
@@ -50,11 +36,14 @@ THostForms::THostForms(HToolkit& kit, const THostOptions& options, const std::ve
 }
 
 HCustomForm& THostForms::FormNamed(const std::string& name) const {
-    for (HComponent* root : FRoots)
-        if (auto* form = dynamic_cast<HCustomForm*>(root);
-            form && SameText(form->PlainName(), Utf8ToAnsi(name)))
-            return *form;
-    throw THostUsageError("no loaded form is called " + name);
+    std::string known;
+    for (HComponent* root : FRoots) {
+        auto* form = dynamic_cast<HCustomForm*>(root);
+        if (form && SameText(form->PlainName(), Utf8ToAnsi(name))) return *form;
+        if (form) known += (known.empty() ? "" : ", ") + AnsiToUtf8(form->PlainName());
+    }
+    throw THostUsageError("found \"" + name + "\" behind --show or --modal, expected a loaded form (" +
+                          known + ")");
 }
 
 void THostForms::Show() {

@@ -1,5 +1,7 @@
 #include "host/app/JournalFile.h"
 
+#include <cerrno>
+#include <cstring>
 #include <stdexcept>
 
 #include "rtl/CodePage.h"
@@ -8,7 +10,7 @@ namespace rux {
 
 TJournalFile::TJournalFile(HJournal& journal, const std::string& name)
     : FJournal(journal), FFile(name, std::ios::binary) {
-    if (!FFile) throw std::runtime_error(name + ": cannot be written");
+    if (!FFile) throw std::runtime_error(name + ": cannot be written (" + std::strerror(errno) + ")");
     journal.SetSink(HEntriesOfHost, [this](HEntry, std::string_view line) {
         std::string text = AnsiToUtf8(line);
         for (char& c : text)

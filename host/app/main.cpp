@@ -1,4 +1,6 @@
 // rux-host: an application on the headless desktop with the agent inside.
+#include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -48,27 +50,41 @@ std::string TitleOf(const std::string& moduleName) {
     return title.substr(0, 1) + LowerCase(title.substr(std::min<std::size_t>(1, title.size())));
 }
 
+/// False for links, devices and folders, which must stay what they are.
+bool IsPlainFileOrNone(const std::string& name) {
+    std::error_code failure;
+    const std::filesystem::file_type type = std::filesystem::symlink_status(name, failure).type();
+    return type == std::filesystem::file_type::regular || type == std::filesystem::file_type::not_found;
+}
+
 void WritePortFile(const std::string& name, std::uint16_t port) {
     // Whoever waits for the file must never read half a number.
-    const std::string draft = name + ".new";
+    const bool plain = IsPlainFileOrNone(name);
+    const std::string draft = plain ? name + ".new" : name;
     std::ofstream file(draft, std::ios::binary);
     file << port << '\n';
     file.close();
-    if (!file || rename(draft.c_str(), name.c_str()) != 0) throw Exception(name + ": cannot be written");
+    if (file && (!plain || rename(draft.c_str(), name.c_str()) == 0)) return;
+    const std::string why = std::strerror(errno);
+    if (plain) unlink(draft.c_str());
+    throw Exception(name + ": cannot be written (" + why + ")");
 }
 
 /// Runs the application with the agent inside until it ends.
 int Serve(THeadlessPlatform& desktop, THostForms& forms, const THostOptions& options) {
     CheckHost(desktop.Platform());
+    // Nor may whoever waits take the port of an earlier run for this one's.
+    if (!options.PortFile.empty() && IsPlainFileOrNone(options.PortFile)) unlink(options.PortFile.c_str());
     TRUXApplication agent(desktop.Platform());
     agent.Start();
     if (!agent.Daemon()->WaitUntilListening()) {
-        std::cerr << "rux-host: cannot listen on " << options.Listen << ":" << agent.ServerPort() << '\n';
+        std::cerr << "rux-host: cannot listen on " << options.Listen << ":" << agent.ServerPort()
+                  << " (--listen takes an IPv4 address of this machine)\n";
         return ExitUnusable;
     }
+    if (!options.PortFile.empty()) WritePortFile(options.PortFile, agent.ServerPort());
     std::cout << "rux-host: port " << agent.ServerPort() << ", work folder " << SystemName(GetWorkDir())
               << std::endl;
-    if (!options.PortFile.empty()) WritePortFile(options.PortFile, agent.ServerPort());
     forms.QueueModal();
     desktop.Toolkit().App().Run();
     agent.Stop();

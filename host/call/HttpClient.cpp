@@ -61,7 +61,8 @@ void THttpClient::Connect() {
     to.sin_family = AF_INET;
     to.sin_port = htons(FPort);
     if (inet_pton(AF_INET, FAddress.c_str(), &to.sin_addr) != 1)
-        throw THttpClientError(FAddress + " is no address");
+        throw THttpClientError("found \"" + FAddress +
+                               "\" as the address, expected an IPv4 address such as 127.0.0.1");
     FSocket = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     const int on = 1;
     setsockopt(FSocket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);

@@ -39,15 +39,17 @@ std::string Unescape(std::string_view text) {
     return result;
 }
 
-void ReadExpectation(std::string_view text, TScriptStep& step) {
+void ReadExpectation(const std::string& name, std::string_view text, TScriptStep& step) {
     text = Trimmed(text);
     int status = 0;
     std::size_t at = 0;
     for (; at < text.size() && at < 9 && std::isdigit(static_cast<unsigned char>(text[at])); ++at)
         status = status * 10 + (text[at] - '0');
     if (at == 0 || (at < text.size() && text[at] != ' '))
-        throw std::runtime_error("line " + std::to_string(step.Line) + ": found \"" + std::string(text) +
-                                 "\", expected a status number, and a text behind it if the text counts");
+        throw std::runtime_error(
+            name + ":" + std::to_string(step.Line) + ": found \"" + std::string(text) +
+            "\" behind the last \" => \", expected a status number, and a text behind it if "
+            "the text counts");
     step.Status = status;
     if (at < text.size()) step.Text = Unescape(text.substr(at + 1));
 }
@@ -71,7 +73,7 @@ std::string EscapeText(std::string_view text) {
     return result;
 }
 
-std::vector<TScriptStep> ReadScript(std::string_view text) {
+std::vector<TScriptStep> ReadScript(const std::string& name, std::string_view text) {
     std::vector<TScriptStep> steps;
     if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
     for (int number = 1; !text.empty(); ++number) {
@@ -83,7 +85,7 @@ std::vector<TScriptStep> ReadScript(std::string_view text) {
         step.Line = number;
         const std::size_t arrow = line.rfind(Arrow);
         step.Request = Trimmed(line.substr(0, arrow));
-        if (arrow != line.npos) ReadExpectation(line.substr(arrow + Arrow.size()), step);
+        if (arrow != line.npos) ReadExpectation(name, line.substr(arrow + Arrow.size()), step);
         steps.push_back(std::move(step));
     }
     return steps;

@@ -17,8 +17,9 @@ struct TScriptStep {
 };
 
 /// Lines that begin with `#` and empty lines say nothing. In an expected text `\r`, `\n`, `\t` and `\\` stand
-/// for the characters. Raises std::runtime_error with the line's number for an expectation that is none.
-std::vector<TScriptStep> ReadScript(std::string_view text);
+/// for the characters. Raises std::runtime_error with `name` and the line's number for an expectation that is
+/// none.
+std::vector<TScriptStep> ReadScript(const std::string& name, std::string_view text);
 
 /// A text as a script writes it.
 std::string EscapeText(std::string_view text);

@@ -1,11 +1,10 @@
 // ruxcall: sends requests to an application with the agent inside and prints what it answers.
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <iostream>
-#include <sstream>
 #include <vector>
 
+#include "host/InputFile.h"
 #include "host/call/HttpClient.h"
 #include "host/call/Script.h"
 
@@ -27,8 +26,8 @@ one connection, and prints status, comment and text of each answer.
   --port-file P    read the port from the file P
   --address A      address of the agent (default 127.0.0.1)
   -f SCRIPT        read requests from SCRIPT, one a line; "-" is standard input. Lines that begin with # are
-                   comments. Behind " => " may stand what is expected: a status, or a status and the text
-                   (with \r \n \t \\ for those characters).
+                   comments. Behind the last " => " of a line may stand what is expected: a status, or a
+                   status and the text (with \r \n \t \\ for those characters).
   --help           this text
 
 Exit status: 0 all answers came (and are as expected), 1 an expectation was not met, 2 no answer or wrong usage.
@@ -55,19 +54,6 @@ std::uint16_t PortOf(const std::string& text, const std::string& where) {
     return static_cast<std::uint16_t>(port);
 }
 
-std::string ReadAll(std::istream& from) {
-    std::ostringstream text;
-    text << from.rdbuf();
-    return text.str();
-}
-
-std::string ReadFile(const std::string& name) {
-    if (name == "-") return ReadAll(std::cin);
-    std::ifstream file(name, std::ios::binary);
-    if (!file) throw TUsageError("cannot read " + name);
-    return ReadAll(file);
-}
-
 TOptions ReadOptions(int argc, char** argv) {
     TOptions options;
     const std::vector<std::string> args(argv + 1, argv + argc);
@@ -82,7 +68,7 @@ TOptions ReadOptions(int argc, char** argv) {
             options.Port = PortOf(value(), "behind --port");
         else if (args[i] == "--port-file") {
             const std::string name = value();
-            options.Port = PortOf(ReadFile(name), "in " + name);
+            options.Port = PortOf(ReadInputFile(name), "in " + name);
         } else if (args[i] == "--address")
             options.Address = value();
         else if (args[i] == "-f")
@@ -98,7 +84,9 @@ TOptions ReadOptions(int argc, char** argv) {
 }
 
 std::vector<TScriptStep> StepsOf(const TOptions& options) {
-    if (!options.Script.empty()) return ReadScript(ReadFile(options.Script));
+    const std::string& name = options.Script;
+    if (name == "-") return ReadScript("standard input", ReadToEnd(std::cin, "standard input"));
+    if (!name.empty()) return ReadScript(name, ReadInputFile(name));
     std::vector<TScriptStep> steps;
     for (const std::string& request : options.Requests) {
         TScriptStep step;

@@ -4,6 +4,7 @@
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <cctype>
@@ -66,6 +67,8 @@ void THttpClient::Connect() {
     FSocket = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     const int on = 1;
     setsockopt(FSocket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+    const timeval timeout{static_cast<time_t>(FTimeout), 0};
+    setsockopt(FSocket, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof timeout);
     if (FSocket >= 0 && connect(FSocket, reinterpret_cast<sockaddr*>(&to), sizeof to) == 0) return;
     const std::string why = std::strerror(errno);
     Close();
@@ -83,6 +86,8 @@ void THttpClient::Send(std::string_view bytes) {
 bool THttpClient::Fill() {
     char piece[16384];
     const ssize_t got = recv(FSocket, piece, sizeof piece, 0);
+    if (got < 0 && errno == EAGAIN)
+        throw THttpClientError("no answer within " + std::to_string(FTimeout) + " seconds");
     if (got > 0) FBuffer.append(piece, static_cast<std::size_t>(got));
     return got > 0;
 }

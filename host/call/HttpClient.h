@@ -31,6 +31,8 @@ class THttpClient {
     /// Sends a request text (UTF-8) and waits for the answer, connecting first when need be. Raises
     /// THttpClientError.
     THttpReply Get(std::string_view requestText);
+    /// From the next connection on, an answer that does not come within that time raises. 0: waits for ever.
+    void SetTimeout(unsigned seconds) { FTimeout = seconds; }
 
  private:
     void Connect();
@@ -42,6 +44,7 @@ class THttpClient {
 
     std::string FAddress;
     std::uint16_t FPort;
+    unsigned FTimeout = 0;
     int FSocket = -1;
     std::string FBuffer;
 };

@@ -25,6 +25,7 @@ one connection, and prints status, comment and text of each answer.
   --port N         port of the agent (default 4440)
   --port-file P    read the port from the file P
   --address A      address of the agent (default 127.0.0.1)
+  --timeout S      give up when nothing of an answer comes for S seconds (default: wait as long as the agent does)
   -f SCRIPT        read requests from SCRIPT, one a line; "-" is standard input. Lines that begin with # are
                    comments. Behind the last " => " of a line may stand what is expected: a status, or a
                    status and the text (with \r \n \t \\ for those characters).
@@ -40,18 +41,25 @@ struct TUsageError : std::runtime_error {
 struct TOptions {
     std::string Address = "127.0.0.1";
     std::uint16_t Port = DefaultPort;
+    unsigned Timeout = 0;
     std::string Script;
     std::vector<std::string> Requests;
     bool Help = false;
 };
 
-std::uint16_t PortOf(const std::string& text, const std::string& where) {
+/// A number from 1 to `most`, with or without an end of line.
+unsigned NumberOf(const std::string& text, const std::string& where, const std::string& what, long most) {
     char* end = nullptr;
-    const long port = std::strtol(text.c_str(), &end, 10);
+    const long number = std::strtol(text.c_str(), &end, 10);
     const bool rest = *end != 0 && *end != '\n' && *end != '\r';
-    if (end == text.c_str() || rest || port < 1 || port > 65535)
-        throw TUsageError("found \"" + text + "\" " + where + ", expected a port from 1 to 65535");
-    return static_cast<std::uint16_t>(port);
+    if (end == text.c_str() || rest || number < 1 || number > most)
+        throw TUsageError("found \"" + text + "\" " + where + ", expected " + what + " from 1 to " +
+                          std::to_string(most));
+    return static_cast<unsigned>(number);
+}
+
+std::uint16_t PortOf(const std::string& text, const std::string& where) {
+    return static_cast<std::uint16_t>(NumberOf(text, where, "a port", 65535));
 }
 
 TOptions ReadOptions(int argc, char** argv) {
@@ -71,6 +79,8 @@ TOptions ReadOptions(int argc, char** argv) {
             options.Port = PortOf(ReadInputFile(name), "in " + name);
         } else if (args[i] == "--address")
             options.Address = value();
+        else if (args[i] == "--timeout")
+            options.Timeout = NumberOf(value(), "behind --timeout", "seconds", 86400);
         else if (args[i] == "-f")
             options.Script = value();
         else if (args[i].starts_with("--"))
@@ -119,6 +129,7 @@ int Run(int argc, char** argv) {
         return 0;
     }
     THttpClient client(options.Address, options.Port);
+    client.SetTimeout(options.Timeout);
     int unmet = 0;
     for (const TScriptStep& step : StepsOf(options)) unmet += !Play(client, step, !options.Script.empty());
     if (unmet == 0) return 0;

@@ -61,7 +61,7 @@ class TCatalogueTest : public ::testing::Test {
     TPosixSockets Sockets{Clock, {}};
     TPosixFiles FileSystem;
     THeadlessPlatform Desktop{Kernel, Clock, Sockets, FileSystem};
-    const HClassParents Parents;
+    const HClassParents Parents{};
     std::vector<TFormFile> Files;
     std::unique_ptr<HFormLoader> Loader;
 

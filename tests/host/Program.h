@@ -83,7 +83,10 @@ class TProgram {
         close(FOut), close(FErrors);
     }
 
-    void Signal(int number) { kill(FProcess, number); }
+    /// Nothing for a program that has ended: -1 would be everybody.
+    void Signal(int number) {
+        if (FProcess > 0) kill(FProcess, number);
+    }
     /// The next line of the standard output that begins with `text`; those before it are dropped. The
     /// outcome, when there is none.
     std::string WaitForLine(std::string_view text) {

@@ -11,7 +11,7 @@ TEST(Usage, HelpTellsEveryOptionAndEveryOptionIsKnown) {
         {"rux-host",
          {"--sample", "--show", "--modal", "--listen", "--port-file", "--work-dir", "--codepage", "--classes",
           "--journal", "--dump", "--help"}},
-        {"ruxcall", {"--port", "--port-file", "--address", "-f", "--help"}}};
+        {"ruxcall", {"--port", "--port-file", "--address", "--timeout", "-f", "--help"}}};
     for (const auto& [program, options] : programs) {
         const std::string help = OutcomeOf({program, "--help"});
         EXPECT_TRUE(help.starts_with("usage: " + program + " ") && help.ends_with("\n= 0")) << help;

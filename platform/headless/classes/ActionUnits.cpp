@@ -68,6 +68,8 @@ void RegisterExtendedActions(HClasses& classes) {
     classes.Add("TURLAction", "TCustomAction", nullptr, Join({ActionRows(), Texts({"URL"})}));
     AddChildren(classes, "TURLAction", {"TBrowseURL", "TDownLoadURL"});
     classes.Add("TSendMail", "TCustomAction", nullptr, ActionRows());
+    classes.Add("TBrowseForFolder", "TCustomAction", nullptr,
+                Join({ActionRows(), Texts({"DialogCaption", "Folder"})}));
     classes.Add("TListControlAction", "TCustomAction", nullptr,
                 Join({ActionRows(), Objects({"ListControl"})}));
     AddChildren(classes, "TListControlAction",

@@ -2,6 +2,8 @@
 // parents, published properties and defaults; ancestors come before descendants.
 #pragma once
 
+#include <functional>
+
 #include "platform/headless/toolkit/HClasses.h"
 #include "platform/headless/toolkit/HControl.h"
 
@@ -127,6 +129,8 @@ HRows Windowed();
 /// Windowed with a colour and a border like edits and lists.
 HRows Framed();
 /// What edits of all kinds share, and what plain ones have beyond it.
+/// What a control that nobody knows publishes: what nearly all do, and what its form files store of the rest.
+HRows UnknownControlRows(bool windowed, const std::function<bool(TName)>& stored);
 HRows EditRows();
 HRows FullEditRows();
 HRows GroupBoxRows();

@@ -253,4 +253,10 @@ HRows Framed() {
     return Join({Windowed(), Coloured(), ThreeD(), {KeptEnum("BorderStyle", "TBorderStyle", "bsSingle")}});
 }
 
+HRows UnknownControlRows(bool windowed, const std::function<bool(TName)>& stored) {
+    HRows rows = Join({Captioned(), Texted(), Aligned(), Acting()});
+    std::erase_if(rows, [&](const HPropDef& row) { return !stored(row.Name); });
+    return Join({rows, Shown(), windowed ? Tabbed() : HRows{}});
+}
+
 }  // namespace rux

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "platform/headless/classes/HClassTables.h"
 #include "rtl/StringList.h"
 #include "rtl/Text.h"
 
@@ -100,6 +101,9 @@ void HClassChooser::Look(const TFormFile& file) {
                              : !isControl[i]                          ? TShape::Component
                              : windowed                               ? TShape::Windowed
                                                                       : TShape::Graphic;
+        for (const TFormProperty& property : object.Properties)
+            if (const TName name = FindName(property.Name))
+                FStored[UpperCase(object.ClassName)].insert(name.Id);
         TShape& kept = FShapes.emplace(UpperCase(object.ClassName), shape).first->second;
         kept = std::max(kept, shape);
     }
@@ -126,9 +130,18 @@ const HClassDef& HClassChooser::DefOf(const std::string& className) {
         if (step.empty()) step = ServerOf(className);
         def = FClasses.FindDef(step);
     }
-    for (auto name = unknown.rbegin(); name != unknown.rend(); ++name)
-        def = &FClasses.AddUnknown(*name, *def);
+    for (auto name = unknown.rbegin(); name != unknown.rend(); ++name) def = &AddUnknown(*name, *def);
     return *def;
+}
+
+const HClassDef& HClassChooser::AddUnknown(const std::string& className, const HClassDef& parent) {
+    if (!IsControlClass(&parent)) return FClasses.AddUnknown(className, parent);
+    const auto stored = [&](TName name) {
+        const auto found = FStored.find(UpperCase(className));
+        return found != FStored.end() && found->second.count(name.Id) != 0;
+    };
+    const bool windowed = parent.Class->Is(TFacetId::WinControl);
+    return FClasses.AddUnknown(className, parent, UnknownControlRows(windowed, stored));
 }
 
 }  // namespace rux

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "platform/headless/forms/FormFile.h"
@@ -39,10 +40,13 @@ class HClassChooser {
     void Look(const TFormFile& file);
     static TShape RootShape(const TFormObject& root);
     std::string_view ServerOf(const std::string& className) const;
+    const HClassDef& AddUnknown(const std::string& className, const HClassDef& parent);
 
     HClasses& FClasses;
     const HClassParents& FParents;
     std::unordered_map<std::string, TShape> FShapes;
+    /// Names of the properties that the files store for objects of unknown classes, by class.
+    std::unordered_map<std::string, std::unordered_set<std::uint32_t>> FStored;
 };
 
 }  // namespace rux

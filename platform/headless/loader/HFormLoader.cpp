@@ -194,11 +194,11 @@ void HFormLoader::Resolve(const TPass& pass, const HReference& reference) {
 
 void HFormLoader::Finish(TPass& pass) {
     for (const HReference& reference : pass.Properties.References()) Resolve(pass, reference);
+    // Methods get their code first: a timer that is loaded asks whether there is any.
+    if (FHook)
+        for (HComponent* root : pass.Roots) FHook(*root);
     for (HComponent* component : pass.Made) component->Loaded();
-    for (HComponent* root : pass.Roots) {
-        if (FHook && !root->Dead()) FHook(*root);
-        root->FireGuarded(FKit.Names().OnCreate);
-    }
+    for (HComponent* root : pass.Roots) root->FireGuarded(FKit.Names().OnCreate);
 }
 
 void ShowLoadedForms(const std::vector<HComponent*>& roots) {

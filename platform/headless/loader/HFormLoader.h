@@ -20,7 +20,8 @@ class HFormLoader {
  public:
     HFormLoader(HToolkit& kit, const HClassParents& parents) : FKit(kit), FParents(parents) {}
 
-    /// Called for each root before OnCreate fires: the place to give its methods their code.
+    /// Called for each root before the first component is told that it is loaded: the place to give its
+    /// methods their code.
     using TRootHook = std::function<void(HComponent& root)>;
     void SetRootHook(TRootHook hook) { FHook = std::move(hook); }
 

@@ -3,10 +3,14 @@
 #include "platform/headless/HLimits.h"
 #include "platform/headless/native/HNativeWindow.h"
 #include "rtl/CodePage.h"
+#include "rtl/Stack.h"
 
 namespace rux {
 
 namespace {
+
+/// What a box's loop may need; less than the reserve that is left for reports.
+constexpr std::size_t StackOfBox = std::size_t{64} << 10;
 
 HWnd AddChild(HDesktop& desktop, HWnd parent, const char* className, const std::string& text,
               const TRect& rect, std::shared_ptr<HWindowTarget> target) {
@@ -58,6 +62,8 @@ bool EndsBox(HDesktop& desktop, HWnd box, const TMessage& message) {
 
 void RunMessageBox(HDesktop& desktop, const std::string& text, const std::string& caption, HWnd owner) {
     desktop.Journal().Add(HEntry::Box, "box " + caption + ": " + text);
+    // Errors of timers that fire under the boxes of earlier ones.
+    if (StackRoom() < StackOfBox) return;
     const HDesktop::THandling handling(desktop);
     desktop.CancelMode();
     const auto dialog = std::make_shared<HNativeDialog>(desktop);

@@ -96,6 +96,8 @@ void HApplication::HandleException(const std::exception& error) {
         handler(error);
     } catch (const std::exception& again) {
         if (!dynamic_cast<const EAbort*>(&again)) ShowException(again);
+    } catch (...) {
+        ShowException(Exception("Unknown exception"));
     }
 }
 

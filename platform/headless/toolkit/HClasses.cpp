@@ -68,8 +68,11 @@ const HClassDef& HClasses::AddCollection(std::string_view name, std::string_view
     return Keep(std::move(def));
 }
 
-const HClassDef& HClasses::AddUnknown(std::string_view name, const HClassDef& parent) {
+const HClassDef& HClasses::AddUnknown(std::string_view name, const HClassDef& parent,
+                                      std::vector<HPropDef> props) {
     HClassDef def = parent;
+    std::erase_if(props, [&](const HPropDef& prop) { return parent.Props->Find(prop.Name) != nullptr; });
+    if (!props.empty()) def.Props = std::make_shared<HPropTable>(parent.Props.get(), std::move(props));
     def.Class = &Define(name, parent.Class);
     def.Parent = &parent;
     def.Known = false;

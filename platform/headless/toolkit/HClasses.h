@@ -45,8 +45,10 @@ class HClasses final : public TClassTable {
                          std::vector<HPropDef> props = {});
     /// A collection of items of a class that must have been added before.
     const HClassDef& AddCollection(std::string_view name, std::string_view item);
-    /// A class that the toolkit does not know, served as its parent is.
-    const HClassDef& AddUnknown(std::string_view name, const HClassDef& parent);
+    /// A class that the toolkit does not know, served as its parent is. It publishes `props` as well, as far
+    /// as the parent does not.
+    const HClassDef& AddUnknown(std::string_view name, const HClassDef& parent,
+                                std::vector<HPropDef> props = {});
     /// nil if there is none.
     const HClassDef* FindDef(std::string_view name) const;
 

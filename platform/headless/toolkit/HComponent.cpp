@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "platform/headless/toolkit/HToolkit.h"
+#include "rtl/Stack.h"
 #include "rtl/Text.h"
 
 namespace rux {
@@ -138,10 +139,12 @@ bool HComponent::Fire(TName event, HEventArgs& args) {
     const TEvent* row = FindEvent(event);
     if (!row || Dead()) return false;
     HJournal& journal = Kit().Desktop().Journal();
-    if (journal.Wants(HEntry::Event))
+    // Without a method it is the toolkit's own, such as that of a radio group's buttons.
+    if (journal.Wants(HEntry::Event) && !row->Method.empty())
         journal.Add(HEntry::Event, "event " + Path() + " " + NameText(event) + " " + row->Method);
     // A copy: the handler may assign another one, or end this component.
     if (const HHandler code = CodeOf(*row)) {
+        CheckStack();  // handlers may cause each other's events without end
         const HDesktop::THandling handling(Kit().Desktop());
         code(*this, args);
     }

@@ -67,7 +67,8 @@ class HComponent : public With<HObject, TComponent> {
     bool HasCode(TName event) const;
     /// Name of the method, empty without one.
     std::string MethodOf(TName event) const;
-    /// Records the event and runs its code, if both are there. False when the event is not assigned.
+    /// Records the event and runs its code, if both are there. False when the event is not assigned. Raises
+    /// EStackOverflow when events have caused each other for too long.
     bool Fire(TName event, HEventArgs& args);
     bool Fire(TName event);
     /// Fires an event of the component's life, unless it is still being loaded: what its code raises is

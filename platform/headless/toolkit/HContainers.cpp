@@ -43,8 +43,18 @@ void HPageControl::AddPage(HTabSheet& page) {
 }
 
 void HPageControl::RemovePage(HTabSheet& page) {
-    std::erase(FPages, &page);
-    if (FActivePage == &page) FActivePage = nullptr;
+    // Pages mostly go in the reverse order of their coming.
+    const auto place = std::find(FPages.rbegin(), FPages.rend(), &page);
+    if (place == FPages.rend()) return;
+    const auto next = FPages.erase(std::next(place).base());
+    if (FActivePage != &page) return;
+    FActivePage = nullptr;
+    if (Destroying()) return;
+    // The one behind it comes up, else the first.
+    std::vector<HTabSheet*> order(next, FPages.end());
+    order.insert(order.end(), FPages.begin(), next);
+    const auto shown = std::find_if(order.begin(), order.end(), [](HTabSheet* p) { return p->TabVisible(); });
+    SetActivePageObject(shown == order.end() ? nullptr : *shown);
 }
 
 void HPageControl::SetActivePageObject(HObject* page) {

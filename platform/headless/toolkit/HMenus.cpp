@@ -1,5 +1,8 @@
 #include "platform/headless/toolkit/HMenus.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "platform/headless/toolkit/HClasses.h"
 #include "platform/headless/toolkit/HToolkit.h"
 
@@ -51,8 +54,11 @@ void HMenuItem::AddParts(std::vector<HComponent*>& parts) const {
 
 void HMenuItem::Detach() {
     SetAction(nullptr);
-    if (FParent) std::erase(FParent->FItems, this);
-    FParent = nullptr;
+    if (!FParent) return;
+    // Items mostly go in the reverse order of their coming.
+    std::vector<HMenuItem*>& row = std::exchange(FParent, nullptr)->FItems;
+    const auto place = std::find(row.rbegin(), row.rend(), this);
+    if (place != row.rend()) row.erase(std::next(place).base());
 }
 
 HMenu::HMenu(HToolkit& kit, const HClassDef& def)

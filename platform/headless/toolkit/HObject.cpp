@@ -85,6 +85,12 @@ const std::string* HObject::Blob(TName name) const {
     return found == FBlobs.end() ? nullptr : &found->second;
 }
 
+void HObject::StoreBlob(TName name, std::string bytes) {
+    // A form that stands on another one may store it anew.
+    std::erase_if(FBlobs, [&](const auto& row) { return row.first == name; });
+    FBlobs.emplace_back(name, std::move(bytes));
+}
+
 HObject& HObject::Adopt(std::unique_ptr<HObject> part) {
     return *FParts.emplace_back(std::move(part));
 }

@@ -59,7 +59,7 @@ class HObject : public TObject {
 
     /// Bytes that a form file stores beside the published properties; nil if there are none.
     const std::string* Blob(TName name) const;
-    void StoreBlob(TName name, std::string bytes) { FBlobs.emplace_back(name, std::move(bytes)); }
+    void StoreBlob(TName name, std::string bytes);
 
     HToolkit& Kit() const { return FKit; }
     const HClassDef& Def() const { return FDef; }

@@ -234,13 +234,14 @@ void HDesktop::KillTimer(unsigned timer) {
 bool HDesktop::DueTimer(TMessage& message) {
     if (FTimers.empty()) return false;
     const std::uint64_t now = FClock.TickCount();
-    for (auto& [number, timer] : FTimers) {
-        if (timer.Due > now) continue;
-        timer.Due = now + std::max<std::uint32_t>(timer.Interval, 1);
-        message = {0, WM_TIMER, number, 0};
-        return true;
-    }
-    return false;
+    // The one that has waited longest: a timer that is always due must not keep the others from their turn.
+    const auto next = std::min_element(FTimers.begin(), FTimers.end(), [](const auto& a, const auto& b) {
+        return a.second.Due < b.second.Due;
+    });
+    if (next->second.Due > now) return false;
+    next->second.Due = now + std::max<std::uint32_t>(next->second.Interval, 1);
+    message = {0, WM_TIMER, next->first, 0};
+    return true;
 }
 
 std::uint32_t HDesktop::TimeToNextTimer() {

@@ -40,6 +40,9 @@ TLiveHost::~TLiveHost() {
     if (FFailure.empty()) Kit().App().Terminate();
     pthread_join(FThread, nullptr);
     std::filesystem::remove_all(FFolder);
+    // The process keeps its port for good, so it must keep what tells others of that.
+    static std::vector<std::unique_ptr<TPosixPlatform>> holdMutexes;
+    holdMutexes.push_back(std::move(FPosix));
 }
 
 void* TLiveHost::Enter(void* self) {

@@ -59,12 +59,13 @@ Typed: say typed >> get L.FocusControl; get R2.L.FocusControl; free R2; get L.Fo
         "  TKnown W parent=F rect=(5,25)-(8,29) visible=True enabled=True caption='' "
         "[unknown class, served as TEdit]\n");
     // What unknown controls store takes effect.
-    EXPECT_EQ(TStage("object F: TForm W:TWin@1,2,9,9 Visible = False Caption = 'w' TabOrder = 0 end "
-                     "G:TGraph@1,2,9,9 Enabled = False Text = 'g' end V:TWin@1,2,9,9 end end")
-                  .Play("get W.Visible; get W.Caption; set W.Caption x; get W.Caption; get G.Enabled; get G.Text; "
-                        "get G.Visible; get G.Caption; get V.Visible; get V.Caption; get V.Text"),
-              "W.Visible=False; W.Caption=w; W.Caption=x; G.Enabled=False; G.Text=g; G.Visible=True; G.Caption=?; "
-              "V.Visible=True; V.Caption=; V.Text=?");
+    EXPECT_EQ(
+        TStage("object F: TForm W:TWin@1,2,9,9 Visible = False Caption = 'w' TabOrder = 0 end "
+               "G:TGraph@1,2,9,9 Enabled = False Text = 'g' end V:TWin@1,2,9,9 end end")
+            .Play("get W.Visible; get W.Caption; set W.Caption x; get W.Caption; get G.Enabled; get G.Text; "
+                  "get G.Visible; get G.Caption; get V.Visible; get V.Caption; get V.Text"),
+        "W.Visible=False; W.Caption=w; W.Caption=x; G.Enabled=False; G.Text=g; G.Visible=True; G.Caption=?; "
+        "V.Visible=True; V.Caption=; V.Text=?");
 }
 
 TEST(Loader, References) {

@@ -22,14 +22,19 @@ TRect Union(const TRect& a, const TRect& b) {
             std::max(a.Bottom, b.Bottom)};
 }
 
-/// Spreads the bits of a number so that those of another one fit in between.
-std::uint64_t Spread(std::int32_t number) {
-    std::uint64_t bits = static_cast<std::uint32_t>(number) ^ 0x80000000u;  // negative numbers come first
-    bits = (bits | (bits << 16)) & 0x0000FFFF0000FFFFu;
-    bits = (bits | (bits << 8)) & 0x00FF00FF00FF00FFu;
-    bits = (bits | (bits << 4)) & 0x0F0F0F0F0F0F0F0Fu;
-    bits = (bits | (bits << 2)) & 0x3333333333333333u;
-    return (bits | (bits << 1)) & 0x5555555555555555u;
+/// Spreads the bits of a side so that those of the three others fit in between. What lies beyond 16 bits is
+/// put at their end: the order only decides how quickly something is found.
+std::uint64_t Spread(std::int32_t side) {
+    constexpr std::int32_t limit = 0x8000;
+    auto bits = static_cast<std::uint64_t>(std::clamp(side, -limit, limit - 1) + limit);
+    bits = (bits | (bits << 24)) & 0x000000FF000000FFu;
+    bits = (bits | (bits << 12)) & 0x000F000F000F000Fu;
+    bits = (bits | (bits << 6)) & 0x0303030303030303u;
+    return (bits | (bits << 3)) & 0x1111111111111111u;
+}
+
+std::uint64_t PlaceOf(const TRect& r) {
+    return Spread(r.Left) | (Spread(r.Top) << 1) | (Spread(r.Right) << 2) | (Spread(r.Bottom) << 3);
 }
 
 }  // namespace
@@ -76,8 +81,7 @@ TCoverage::TTree TCoverage::Merged(const std::vector<TSeen>& a, const std::vecto
 
 void TCoverage::AddTree() {
     TTree tree;
-    for (const TRect& rect : FRecent)
-        tree.Seen.push_back({Spread(rect.Left) | (Spread(rect.Top) << 1), rect});
+    for (const TRect& rect : FRecent) tree.Seen.push_back({PlaceOf(rect), rect});
     FRecent.clear();
     std::sort(tree.Seen.begin(), tree.Seen.end(),
               [](const TSeen& x, const TSeen& y) { return x.Place < y.Place; });

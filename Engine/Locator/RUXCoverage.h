@@ -19,7 +19,7 @@ class TCoverage {
 
  private:
     struct TSeen {
-        /// Place of the left top corner along a curve that keeps neighbours together.
+        /// Place of its four sides along a curve that keeps alike rectangles together.
         std::uint64_t Place;
         TRect Rect;
     };

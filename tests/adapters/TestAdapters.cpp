@@ -22,8 +22,8 @@ constexpr TRow CommonRows[] = {
     {"Off.Active", "EInvalidOperation: Cannot focus a disabled or invisible window", ""},
     {"Edit1.RightClick", "",
      "event F.Edit1 OnEnter X; cursor 964,155; post F.Edit1 WM_RBUTTONDOWN 0 48,10; "
-     "post F.Edit1 WM_RBUTTONUP 0 48,10; event F.Edit1 OnMouseDown X; event F.Edit1 OnMouseUp X; "
-     "event F.Edit1 OnContextPopup X"},
+     "post F.Edit1 WM_RBUTTONUP 0 48,10; event F.Edit1 OnMouseDown X; event F.Edit1 OnContextPopup X; "
+     "event F.Edit1 OnMouseUp X"},
     {"Edit1.DbClick", "",
      "event F.Edit1 OnEnter X; cursor 964,155; send F.Edit1 WM_LBUTTONDBLCLK 0 48,10; "
      "event F.Edit1 OnDblClick X; event F.Edit1 OnMouseDown X"},

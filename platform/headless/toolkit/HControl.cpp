@@ -191,8 +191,12 @@ void HControl::ButtonUp(HMouseButton button, HMessage& message) {
         if (clicked && ClientRect().Contains(point)) Click();
         if (Dead()) return;
     }
-    MouseUp(button, point);
-    if (button == HMouseButton::Right && !Dead()) ShowContextMenu(point);
+    // A window's own default procedure asks for the menu before the event; for a graphic control its parent's
+    // does, after it.
+    const bool windowed = Is<TWinControl>(this), asks = button == HMouseButton::Right;
+    if (asks && windowed) ShowContextMenu(point);
+    if (!Dead()) MouseUp(button, point);
+    if (asks && !windowed && !Dead()) ShowContextMenu(point);
 }
 
 void HControl::CancelMouse() {

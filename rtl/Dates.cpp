@@ -46,7 +46,8 @@ std::optional<std::int64_t> ToMilliseconds(TDateTime value) {
 
 TDateTime FromMilliseconds(std::int64_t value) {
     const std::int64_t time = (value % MillisecondsPerDay + MillisecondsPerDay) % MillisecondsPerDay;
-    const auto day = static_cast<double>((value - time) / MillisecondsPerDay);
+    const std::int64_t days = (value - time) / MillisecondsPerDay;
+    const auto day = static_cast<double>(days);
     const double fraction = static_cast<double>(time) / MillisecondsPerDay;
     return day < 0 ? day - fraction : day + fraction;
 }

@@ -108,7 +108,7 @@ std::unique_ptr<TThreadHandle> TPosixThreads::Start(std::function<void()> body) 
         FRunning->Leave();
         RaiseOutOfResources();
     }
-    start.release();
+    static_cast<void>(start.release());
     return handle;
 }
 

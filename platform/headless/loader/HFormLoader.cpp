@@ -73,7 +73,7 @@ HComponent& HFormLoader::MakeRoot(TPass& pass, const TFormFile& file) {
     auto* root = dynamic_cast<HComponent*>(made.get());
     if (!root)
         throw Exception(file.FileName + ":1: a " + def.Class->Name() + " cannot be the root of a form file");
-    made.release();
+    static_cast<void>(made.release());
     FKit.App().Own(std::unique_ptr<HComponent>(root));
     pass.Roots.push_back(root);
     pass.Made.push_back(root);

@@ -90,7 +90,7 @@ void HCustomEdit::DeleteBack() {
 HCustomMemo::HCustomMemo(HToolkit& kit, const HClassDef& def, std::string_view stringsClass)
     : HCustomEdit(kit, def) {
     auto lines = std::make_unique<HTextLines>(kit, *kit.ClassDefs().FindDef(stringsClass));
-    lines->Attach([this] { return FText; }, [this](std::string text) { SetText(text); });
+    lines->Attach([this] { return FText; }, [this](const std::string& text) { SetText(text); });
     FLines = lines.get();
     Adopt(std::move(lines));
 }

@@ -37,7 +37,7 @@ class HToolkit final : public TToolkit, public TScreen, public TMouse {
         std::unique_ptr<HObject> made = Make(className);
         T* typed = dynamic_cast<T*>(made.get());
         if (!typed) return nullptr;
-        made.release();
+        static_cast<void>(made.release());
         return std::unique_ptr<T>(typed);
     }
 

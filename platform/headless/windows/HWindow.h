@@ -36,10 +36,12 @@ struct HInsets {
 };
 
 struct HWindow {
+    // What a search asks of every window comes first, so that it lies together.
     HWnd Handle = 0;
-    std::string ClassName;
     std::uint32_t Style = 0;
     std::uint32_t ExStyle = 0;
+    /// On the screen, kept absolute so that asking costs nothing.
+    TRect Rect;
     /// Set for child windows only.
     HWindow* Parent = nullptr;
     /// The top-level window that a top-level window stays above; 0 for none.
@@ -49,9 +51,8 @@ struct HWindow {
     std::int64_t Order = 0;
     /// Being destroyed: it takes no new children.
     bool Dying = false;
-    /// On the screen, kept absolute so that asking costs nothing.
-    TRect Rect;
     HInsets Insets;
+    std::string ClassName;
     /// Text of windows whose target keeps none of its own.
     std::string Text;
     HWindowTarget* Target = nullptr;

@@ -2,7 +2,6 @@
 #include <cstdint>
 
 #include "fuzz/FuzzEngine.h"
-#include "platform/headless/forms/FormError.h"
 #include "platform/headless/loader/HDump.h"
 
 namespace rux::fuzz {
@@ -54,8 +53,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<HComponent*> roots;
     try {
         roots = loader.Load({ParseFormFile("fuzz.dfm", {reinterpret_cast<const char*>(data), size})});
-    } catch (const EFormFileError&) {
     } catch (const Exception&) {
+        return 0;
     }
     if (roots.empty()) return 0;
     fuzz::Use(loader, roots);

@@ -14,8 +14,8 @@
 #include "platform/posix/ManualClock.h"
 #include "platform/posix/PosixPlatform.h"
 #include "rtl/CodePage.h"
-#include "rtl/Numbers.h"
 #include "rtl/Text.h"
+#include "tests/support/PropertyText.h"
 
 namespace rux::test {
 
@@ -39,7 +39,7 @@ class TCatalogueTest : public ::testing::Test {
         const std::size_t dot = path.find('.');
         TPropValue value;
         if (!object.GetProp(FindName(path.substr(0, dot)), value)) return "?";
-        if (dot == path.npos) return TextOf(value);
+        if (dot == path.npos) return PropertyText(value);
         auto* part = dynamic_cast<HObject*>(value.Object);
         return part ? Read(*part, path.substr(dot + 1)) : "nil";
     }
@@ -64,25 +64,6 @@ class TCatalogueTest : public ::testing::Test {
     const HClassParents Parents{};
     std::vector<TFormFile> Files;
     std::unique_ptr<HFormLoader> Loader;
-
- private:
-    static std::string TextOf(const TPropValue& value) {
-        switch (value.Kind) {
-            case TTypeKind::Integer:
-            case TTypeKind::Char:
-            case TTypeKind::WChar:
-            case TTypeKind::Int64:
-                return IntToStr(value.Ordinal);
-            case TTypeKind::Float:
-                return FloatToStr(value.Real);
-            case TTypeKind::Class:
-                return value.Object ? value.Object->ClassType().Name() : "nil";
-            case TTypeKind::Unknown:
-                return "unknown";
-            default:
-                return value.Text;
-        }
-    }
 };
 
 }  // namespace rux::test

@@ -8,6 +8,7 @@
 #include "rtl/CodePage.h"
 #include "rtl/Numbers.h"
 #include "rtl/Text.h"
+#include "tests/support/PropertyText.h"
 
 namespace rux::test {
 
@@ -51,11 +52,9 @@ std::string Expand(std::string_view text) {
 }
 
 std::string TextOf(const TPropValue& value) {
-    if (value.Kind == TTypeKind::Integer || value.Kind == TTypeKind::Char) return IntToStr(value.Ordinal);
-    if (value.Kind == TTypeKind::Float) return FloatToStr(value.Real);
-    if (value.Kind != TTypeKind::Class) return value.Text;
-    auto* component = dynamic_cast<HComponent*>(value.Object);
-    return component ? component->Path() : value.Object ? value.Object->ClassType().Name() : "nil";
+    const bool isObject = value.Kind == TTypeKind::Class;
+    const auto* component = isObject ? dynamic_cast<HComponent*>(value.Object) : nullptr;
+    return component ? component->Path() : PropertyText(value);
 }
 
 std::string Short(const HDesktop& desktop, HWnd window) {

@@ -19,10 +19,7 @@ TName BorderIconsName() {
 /// The minimize box counts when an MDI child closes.
 HPropDef BorderIconsRow() {
     HPropDef row = KeptSet("BorderIcons", "TBorderIcon", "biSystemMenu,biMinimize,biMaximize");
-    row.Get = [](HObject& object, TPropValue& value) {
-        const TPropValue* stored = object.Stored(BorderIconsName());
-        value = stored ? *stored : object.Def().Props->Find(BorderIconsName())->Default;
-    };
+    row.Get = [](HObject& object, TPropValue& value) { object.GetKept(BorderIconsName(), value); };
     row.Set = [](HObject& object, const TPropValue& value) {
         object.Store(BorderIconsName(), value);
         static_cast<HCustomForm&>(object).SetMinimizeBox(value.Text.find("biMinimize") != std::string::npos);

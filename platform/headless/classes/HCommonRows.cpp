@@ -112,21 +112,10 @@ HControl& Decider(HControl& control, HParentRule rule) {
     return *publishing;
 }
 
-void ReadOwn(HControl& control, TName name, TPropValue& value) {
-    if (const TPropValue* stored = control.Stored(name)) {
-        value = *stored;
-        return;
-    }
-    value = control.Def().Props->Find(name)->Default;
-    if (value.Kind != TTypeKind::Class) return;
-    value = HObjectValue(&control.Adopt(control.Kit().Make(value.Text)));
-    control.Store(name, value);
-}
-
 template <HParentRule (*Rule)()>
 HPropDef FromParent(HPropDef row) {
     row.Get = [](HObject& object, TPropValue& value) {
-        ReadOwn(Decider(static_cast<HControl&>(object), Rule()), Rule().Property, value);
+        Decider(static_cast<HControl&>(object), Rule()).GetKept(Rule().Property, value);
     };
     row.Set = [](HObject& object, const TPropValue& value) { object.Store(Rule().Property, value); };
     return row;

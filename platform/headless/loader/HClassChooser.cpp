@@ -101,10 +101,11 @@ void HClassChooser::Look(const TFormFile& file) {
                              : !isControl[i]                          ? TShape::Component
                              : windowed                               ? TShape::Windowed
                                                                       : TShape::Graphic;
+        const std::string className = UpperCase(object.ClassName);
+        std::unordered_set<std::uint32_t>& stored = FStored[className];
         for (const TFormProperty& property : object.Properties)
-            if (const TName name = FindName(property.Name))
-                FStored[UpperCase(object.ClassName)].insert(name.Id);
-        TShape& kept = FShapes.emplace(UpperCase(object.ClassName), shape).first->second;
+            if (const TName name = FindName(property.Name)) stored.insert(name.Id);
+        TShape& kept = FShapes.emplace(className, shape).first->second;
         kept = std::max(kept, shape);
     }
 }

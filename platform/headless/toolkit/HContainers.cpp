@@ -11,6 +11,10 @@ namespace rux {
 
 // ------------------------------------------------------------------------------------------ pages
 
+TRect RoomBelowTabs(const HControl& control) {
+    return {HTabBorder, HTabHeight, control.Width() - HTabBorder, control.Height() - HTabBorder};
+}
+
 HTabSheet::HTabSheet(HToolkit& kit, const HClassDef& def) : HWinControl(kit, def) {
     HControl::SetVisible(false);
 }
@@ -82,8 +86,7 @@ void HPageControl::Loaded() {
 void HPageControl::Arrange() {
     const bool tabs = std::any_of(FPages.begin(), FPages.end(), [](HTabSheet* p) { return p->TabVisible(); });
     // Without any tab the page fills its control from the origin.
-    const TRect room = tabs ? TRect{HTabBorder, HTabHeight, Width() - HTabBorder, Height() - HTabBorder}
-                            : TRect{0, 0, Width(), Height()};
+    const TRect room = tabs ? RoomBelowTabs(*this) : TRect{0, 0, Width(), Height()};
     for (HTabSheet* page : FPages) {
         page->SetBounds(room);
         if (page != FActivePage) page->SetVisible(false);

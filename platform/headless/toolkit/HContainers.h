@@ -11,6 +11,9 @@ namespace rux {
 
 class HPageControl;
 
+/// Where a control with a row of tabs has its page, in its own coordinates.
+TRect RoomBelowTabs(const HControl& control);
+
 class HTabSheet : public HWinControl {
  public:
     HTabSheet(HToolkit& kit, const HClassDef& def);

@@ -12,9 +12,7 @@ namespace {
 
 HInsets BorderInsets(const HObject& object) {
     static const TName borderStyle = InternName("BorderStyle");
-    const TPropValue* style = object.Stored(borderStyle);
-    const HPropDef* def = object.Def().Props->Find(borderStyle);
-    if (!style && def) style = &def->Default;
+    const TPropValue* style = object.Kept(borderStyle);
     // bsNone is 0.
     if (!style || style->Ordinal == 0) return {};
     return {HClientEdge, HClientEdge, HClientEdge, HClientEdge};

@@ -37,6 +37,10 @@ bool HObject::GetProp(TName name, TPropValue& value) {
         def->Get(*this, value);
         return true;
     }
+    return GetKept(name, value);
+}
+
+bool HObject::GetKept(TName name, TPropValue& value) {
     if (const TPropValue* stored = Stored(name)) {
         value = *stored;
         // Ordinal is the number of the object; what was freed reads as nil.
@@ -44,6 +48,7 @@ bool HObject::GetProp(TName name, TPropValue& value) {
             value.Object = nullptr;
         return true;
     }
+    const HPropDef* def = FDef.Props->Find(name);
     if (!def) return false;
     value = def->Default;
     if (def->Kind == TTypeKind::Class && !value.Text.empty()) {
@@ -68,6 +73,12 @@ const TPropValue* HObject::Stored(TName name) const {
     const auto found =
         std::find_if(FBag.begin(), FBag.end(), [&](const auto& row) { return row.first == name; });
     return found == FBag.end() ? nullptr : &found->second;
+}
+
+const TPropValue* HObject::Kept(TName name) const {
+    if (const TPropValue* stored = Stored(name)) return stored;
+    const HPropDef* def = FDef.Props->Find(name);
+    return def ? &def->Default : nullptr;
 }
 
 void HObject::Store(TName name, TPropValue value) {

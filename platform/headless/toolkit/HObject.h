@@ -54,6 +54,10 @@ class HObject : public TObject {
     void SetProp(TName name, TPropValue value);
     /// A value that the object keeps beyond its class's table; nil if there is none.
     const TPropValue* Stored(TName name) const;
+    /// The same, else the default of its class; nil for a property that neither has.
+    const TPropValue* Kept(TName name) const;
+    /// Reads that as a property: what was freed is nil, and a part is made when it is first asked for.
+    bool GetKept(TName name, TPropValue& value);
     void Store(TName name, TPropValue value);
     const std::vector<std::pair<TName, TPropValue>>& StoredProps() const { return FBag; }
 

@@ -1,6 +1,5 @@
 #include "platform/headless/toolkit/HPages.h"
 
-#include "platform/headless/HLimits.h"
 #include "platform/headless/toolkit/HToolkit.h"
 
 namespace rux {
@@ -92,7 +91,7 @@ HTabbedNotebook::HTabbedNotebook(HToolkit& kit, const HClassDef& def) : HNoteboo
 }
 
 TRect HTabbedNotebook::PageRoom() const {
-    return {HTabBorder, HTabHeight, Width() - HTabBorder, Height() - HTabBorder};
+    return RoomBelowTabs(*this);
 }
 
 }  // namespace rux

@@ -11,13 +11,6 @@ namespace {
 
 constexpr int SeparatorWidth = 8;
 
-/// As the object stores it, else the default of its class; nil for an unknown property.
-const TPropValue* KeptValue(const HObject& object, TName name) {
-    if (const TPropValue* stored = object.Stored(name)) return stored;
-    const HPropDef* def = object.Def().Props->Find(name);
-    return def ? &def->Default : nullptr;
-}
-
 struct HEdgeNames {
     TName Borders = InternName("EdgeBorders"), Inner = InternName("EdgeInner"),
           Outer = InternName("EdgeOuter"), Width = InternName("BorderWidth");
@@ -34,15 +27,15 @@ const HEnumInfo& HEnumOf<HToolButtonStyle>() {
 
 HInsets HToolWindow::Insets() const {
     static const HEdgeNames names;
-    const TPropValue* borders = KeptValue(*this, names.Borders);
+    const TPropValue* borders = Kept(names.Borders);
     const auto has = [&](std::string_view edge) {
         return borders && borders->Text.find(edge) != std::string::npos;
     };
     // Each of the two edges is one pixel; esNone is 0.
     int edge = 0;
     for (const TName name : {names.Inner, names.Outer})
-        if (const TPropValue* style = KeptValue(*this, name); style && style->Ordinal != 0) ++edge;
-    const TPropValue* width = KeptValue(*this, names.Width);
+        if (const TPropValue* style = Kept(name); style && style->Ordinal != 0) ++edge;
+    const TPropValue* width = Kept(names.Width);
     const int border = width ? static_cast<int>(std::clamp<std::int64_t>(width->Ordinal, 0, 1000)) : 0;
     const auto side = [&](std::string_view name) { return border + (has(name) ? edge : 0); };
     return {side("ebLeft"), side("ebTop"), side("ebRight"), side("ebBottom")};

@@ -62,12 +62,6 @@ class TKernelService {
     virtual std::string GetLibraryName() = 0;
     /// True when a module of that name is loaded into the process.
     virtual bool HasModule(const std::string& name) = 0;
-    /// Address of an export of a loaded module; 0 when there is none.
-    virtual std::uintptr_t GetProcAddress(const std::string& module, const std::string& name) = 0;
-    /// Calls a function at a 32-bit address of this process that resolves an exported name; 0 when the
-    /// address is none of a function.
-    virtual std::uintptr_t CallResolveEntry(std::uint32_t entry, const std::string& module,
-                                            const std::string& name) = 0;
     /// True when the run-time library's base class comes from this library itself and not from a package that
     /// it shares with the host.
     virtual bool HasOwnRunTime() = 0;

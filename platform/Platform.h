@@ -4,6 +4,7 @@
 namespace rux {
 
 class TClockService;
+class TCodeService;
 class TFileService;
 class TKernelService;
 class TSocketService;
@@ -15,6 +16,7 @@ class TWindowService;
 struct TPlatform {
     TWindowService& Windows;
     TKernelService& Kernel;
+    TCodeService& Code;
     TClockService& Clock;
     TSocketService& Sockets;
     TFileService& Files;

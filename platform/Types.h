@@ -80,6 +80,54 @@ enum TVirtualKey : unsigned {
     VK_F2 = 113,
 };
 
+/// How ShowWindow shows a window.
+enum TShowCommand : int {
+    SW_HIDE = 0,
+    SW_SHOWNORMAL = 1,
+    SW_SHOWMINIMIZED = 2,
+    SW_SHOWMAXIMIZED = 3,
+    SW_SHOWNOACTIVATE = 4,
+    SW_SHOW = 5,
+    SW_SHOWMINNOACTIVE = 7,
+    SW_RESTORE = 9,
+    SW_SHOWDEFAULT = 10,
+};
+
+inline constexpr std::uint32_t WS_CHILD = 0x40000000;
+inline constexpr std::uint32_t WS_EX_MDICHILD = 0x00000040;
+
+/// Messages of a tree view; a node is a number that the tree gives.
+enum TTreeMessage : unsigned {
+    TVM_INSERTITEMA = 4352,
+    TVM_EXPAND = 4354,
+    /// lParam: a rectangle, its first bytes the node. wParam other than 0: of the text alone.
+    TVM_GETITEMRECT = 4356,
+    TVM_GETCOUNT = 4357,
+    TVM_GETNEXTITEM = 4362,
+    TVM_SELECTITEM = 4363,
+    TVM_GETITEMA = 4364,
+    TVM_SETITEMA = 4365,
+    TVM_ENSUREVISIBLE = 4372,
+};
+
+enum TTreeRelation : unsigned { TVGN_ROOT = 0, TVGN_NEXT = 1, TVGN_CHILD = 4, TVGN_CARET = 9 };
+inline constexpr unsigned TVE_EXPAND = 2;
+inline constexpr unsigned TVIF_TEXT = 1;
+
+using HTreeItem = std::uintptr_t;
+
+/// What TVM_GETITEMA and TVM_SETITEMA are about, in the layout of the window system.
+struct TTVItem {
+    std::uint32_t Mask = 0;
+    HTreeItem Item = 0;
+    std::uint32_t State = 0, StateMask = 0;
+    char* Text = nullptr;
+    std::int32_t TextMax = 0;
+    std::int32_t Image = 0, SelectedImage = 0;
+    std::int32_t Children = 0;
+    LParam Param = 0;
+};
+
 inline constexpr WParam MK_LBUTTON = 1;
 inline constexpr unsigned BN_CLICKED = 0;
 inline constexpr int GWL_WNDPROC = -4;

@@ -11,11 +11,18 @@
 
 namespace rux {
 
+struct TBitmap;
+
 struct TMessage {
     HWnd Window = 0;
     unsigned Number = 0;
     WParam WParameter = 0;
     LParam LParameter = 0;
+};
+
+struct TWindowInfo {
+    std::uint32_t Style = 0;
+    std::uint32_t ExStyle = 0;
 };
 
 using TWindowProcedure = std::function<LResult(HWnd, unsigned, WParam, LParam)>;
@@ -44,7 +51,10 @@ class TWindowService {
     virtual LResult CallWindowProcA(TWndProc procedure, HWnd window, unsigned message, WParam wParam,
                                     LParam lParam) = 0;
 
+    /// Any thread.
     virtual bool IsWindow(HWnd window) = 0;
+    /// Any thread.
+    virtual bool GetWindowInfo(HWnd window, TWindowInfo& info) = 0;
     /// The whole parent chain counts.
     virtual bool IsWindowVisible(HWnd window) = 0;
     /// The window's own state alone.
@@ -53,20 +63,29 @@ class TWindowService {
     /// At most 254 bytes, as a buffer of 255 gives it.
     virtual std::string GetWindowTextA(HWnd window) = 0;
     virtual std::string GetClassNameA(HWnd window) = 0;
-    /// Process of the window's thread; 0 for no window.
+    /// Process of the window's thread; 0 for no window. Any thread.
     virtual std::uint32_t GetWindowProcessId(HWnd window) = 0;
     /// Top-level windows from the top of the stacking order down.
     virtual void EnumWindows(const TEnumWindowsProc& proc) = 0;
     /// All windows below `parent`, each directly followed by its own children.
     virtual void EnumChildWindows(HWnd parent, const TEnumWindowsProc& proc) = 0;
 
-    /// 0 when no such atom exists.
+    /// 0 when no such atom exists. Any thread.
     virtual TAtom GlobalFindAtomA(const std::string& name) = 0;
+    /// Any thread.
     virtual std::uintptr_t GetPropA(HWnd window, TAtom atom) = 0;
 
     virtual TPoint ClientToScreen(HWnd window, TPoint point) = 0;
     virtual TPoint ScreenToClient(HWnd window, TPoint point) = 0;
     virtual HWnd SetActiveWindow(HWnd window) = 0;
+    /// False when the window or one of its parents is disabled.
+    virtual bool SetFocus(HWnd window) = 0;
+
+    /// Has the window draw itself, with all on it and nothing that lies over it. False, and the picture as it
+    /// was, for no window and for one of more pixels than BitmapPixelLimit.
+    virtual bool PrintWindow(HWnd window, TBitmap& picture) = 0;
+    /// What stands on the screen in that place; black beyond its edges. False as above.
+    virtual bool CopyScreen(const TRect& place, TBitmap& picture) = 0;
 
     /// Real keyboard input: goes to whatever window has the focus. Flag 2 is key-up.
     virtual void keybd_event(std::uint8_t key, std::uint8_t scan, std::uint32_t flags,

@@ -1,6 +1,7 @@
 #include "Engine/Start/RUXEngineService.h"
 
 #include "Engine/Core/RUXEngineState.h"
+#include "platform/CodeService.h"
 #include "platform/KernelService.h"
 #include "rtl/Numbers.h"
 
@@ -31,10 +32,12 @@ TRUXEngineService::TRUXEngineService() {
     FResolveEntry = ValueAt(*bytes, 2);
 }
 
-std::uintptr_t TRUXEngineService::ResolveProc(const std::string& module, const std::string& name) const {
-    TKernelService& kernel = Platform().Kernel;
-    return FResolveEntry ? kernel.CallResolveEntry(FResolveEntry, module, name)
-                         : kernel.GetProcAddress(module, name);
+TCodeAddress TRUXEngineService::ResolveProc(const std::string& module, const std::string& name) const {
+    TCodeService& code = Platform().Code;
+    if (FResolveEntry == 0) return code.GetProcAddress(module, name);
+    const std::uintptr_t names[] = {reinterpret_cast<std::uintptr_t>(module.c_str()),
+                                    reinterpret_cast<std::uintptr_t>(name.c_str())};
+    return static_cast<TCodeAddress>(code.Call(TCallKind::StdCall, FResolveEntry, names));
 }
 
 }  // namespace rux

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/CodeService.h"
+
 namespace rux {
 
 class TRUXEngineService {
@@ -17,8 +19,8 @@ class TRUXEngineService {
     /// Address of a function that resolves exported names, 0 for none.
     std::uint32_t ResolveEntry() const { return FResolveEntry; }
     /// Address of an export of a loaded module, by ResolveEntry where there is one; 0 when it cannot be
-    /// found.
-    std::uintptr_t ResolveProc(const std::string& module, const std::string& name) const;
+    /// found. Raises EAccessViolation when ResolveEntry is no function.
+    TCodeAddress ResolveProc(const std::string& module, const std::string& name) const;
 
  private:
     std::uint32_t FFirst = 0, FSecond = 0, FResolveEntry = 0;

@@ -20,6 +20,8 @@ inline constexpr std::size_t HAtomLimit = 0x4000;
 inline constexpr int HCoordLimit = 1 << 15;
 /// Bound of every position on the screen.
 inline constexpr int HScreenCoordLimit = 1 << 30;
+/// Pages of code in the process, of 4,096 bytes each.
+inline constexpr std::size_t HCodePageLimit = 1u << 14;
 /// Windows alive at once.
 inline constexpr std::size_t HWindowLimit = 1u << 20;
 /// Handles of dead windows that rest before the first of them is given out again.

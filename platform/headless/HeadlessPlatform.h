@@ -11,14 +11,17 @@ class THeadlessPlatform {
  public:
     THeadlessPlatform(TKernelService& kernel, TClockService& clock, TSocketService& sockets,
                       TFileService& files)
-        : FDesktop(kernel, clock), FToolkit(FDesktop, clock), FPlatform{FDesktop, kernel, clock,
-                                                                        sockets,  files,  FToolkit} {}
+        : FDesktop(kernel, clock, FCode), FToolkit(FDesktop, clock), FPlatform{FDesktop, kernel,  FCode,
+                                                                               clock,    sockets, files,
+                                                                               FToolkit} {}
 
+    HCodeSpace& CodeSpace() { return FCode; }
     HDesktop& Desktop() { return FDesktop; }
     HToolkit& Toolkit() { return FToolkit; }
     TPlatform& Platform() { return FPlatform; }
 
  private:
+    HCodeSpace FCode;
     HDesktop FDesktop;
     HToolkit FToolkit;
     TPlatform FPlatform;

@@ -83,14 +83,6 @@ bool TPosixKernel::HasModule(const std::string& name) {
                        [&](const std::string& module) { return SameText(module, name); });
 }
 
-std::uintptr_t TPosixKernel::GetProcAddress(const std::string&, const std::string&) {
-    return 0;
-}
-
-std::uintptr_t TPosixKernel::CallResolveEntry(std::uint32_t, const std::string&, const std::string&) {
-    return 0;
-}
-
 std::optional<std::uint64_t> TPosixKernel::GetPagefileUsage() {
     char line[128];
     const ssize_t length = Retry([&] { return ::pread(FMemoryFigures.Get(), line, sizeof line, 0); });

@@ -47,10 +47,6 @@ class TPosixKernel : public TKernelService {
     std::string GetModuleName() override { return FFacts.ModuleName; }
     std::string GetLibraryName() override { return FFacts.LibraryName; }
     bool HasModule(const std::string& name) override;
-    /// 0: modules here have no code that the engine could call by name.
-    std::uintptr_t GetProcAddress(const std::string& module, const std::string& name) override;
-    std::uintptr_t CallResolveEntry(std::uint32_t entry, const std::string& module,
-                                    const std::string& name) override;
     bool HasOwnRunTime() override { return FFacts.HasOwnRunTime; }
     std::optional<std::uint64_t> GetPagefileUsage() override;
     void OutputDebugStringA(const std::string& text) override;

@@ -1,4 +1,6 @@
 // The task centre message by message, and the engine's start.
+#include <cstring>
+
 #include "Engine/Core/RUXServerUtils.h"
 #include "Engine/Host/RUXPort.h"
 #include "Engine/Registry/RUXTypeRegistry.h"
@@ -228,16 +230,30 @@ TEST_F(TEngineTest, TheHostIsChecked) {
 
 TEST_F(TEngineTest, WhatTheControllerHandsOver) {
     const std::string name = "RUX.{09491275-8671-4C09-9404-76E78D4AF883}." + std::to_string(getpid());
+    HCodeSpace& code = Desktop.CodeSpace();
+    code.Export("tb2k", "f", TCallKind::StdCall, 0, [](auto) { return std::uintptr_t{0}; });
+    const TCodeAddress exported = code.GetProcAddress("TB2K", "f");
+    EXPECT_NE(exported, 0u);
+    std::string asked;
+    const TCodeAddress entry =
+        code.MakeFunction(TCallKind::StdCall, 2, [&](std::span<const std::uintptr_t> names) {
+            asked = reinterpret_cast<const char*>(names[0]);
+            asked += std::string("!") + reinterpret_cast<const char*>(names[1]);
+            return std::uintptr_t{11};
+        });
     const auto values = [] {
         const TRUXEngineService s;
-        return std::vector<std::uintptr_t>{s.FirstValue(), s.SecondValue(), s.ResolveEntry(),
-                                           s.ResolveProc("tb2k", "f")};
+        return std::vector<TCodeAddress>{s.FirstValue(), s.SecondValue(), s.ResolveEntry(),
+                                         s.ResolveProc("tb2k", "f")};
     };
-    EXPECT_EQ(values(), (std::vector<std::uintptr_t>{0, 0, 0, 11}));
-    Kernel.NamedObjects().PublishMapping(name, std::string("\x01\0\0\0\x02\0\0\x80\x10\x20\x30\x40more", 16));
-    EXPECT_EQ(values(), (std::vector<std::uintptr_t>{1, 0x80000002, 0x40302010, 0x40302011}));
-    Kernel.NamedObjects().PublishMapping(name, std::string("\x01\0\0\0\x02\0\0\x80\x10\x20\x30", 11));
-    EXPECT_EQ(values(), (std::vector<std::uintptr_t>{0, 0, 0, 11}));  // too small
+    EXPECT_EQ(values(), (std::vector<TCodeAddress>{0, 0, 0, exported}));
+    std::string bytes("\x01\0\0\0\x02\0\0\x80????more", 16);
+    std::memcpy(bytes.data() + 8, &entry, 4);
+    Kernel.NamedObjects().PublishMapping(name, bytes);
+    EXPECT_EQ(values(), (std::vector<TCodeAddress>{1, 0x80000002, entry, 11}));
+    EXPECT_EQ(asked, "tb2k!f");
+    Kernel.NamedObjects().PublishMapping(name, bytes.substr(0, 11));
+    EXPECT_EQ(values(), (std::vector<TCodeAddress>{0, 0, 0, exported}));  // too small
 }
 
 TEST_F(TEngineTest, FoldersAndMutexes) {

@@ -36,12 +36,6 @@ class TTestKernel final : public TPosixKernel {
         Messages += title + ": " + text;
     }
     [[noreturn]] void ExitProcess(unsigned code) override { throw TExit{code}; }
-    std::uintptr_t GetProcAddress(const std::string& module, const std::string& name) override {
-        return module == "tb2k" && name == "f" ? 11 : 0;
-    }
-    std::uintptr_t CallResolveEntry(std::uint32_t entry, const std::string&, const std::string&) override {
-        return entry + 1;
-    }
 };
 
 class TEngineTest : public testing::Test {

@@ -70,7 +70,7 @@ void RunMessageBox(HDesktop& desktop, const std::string& text, const std::string
     const TBox box = CreateBox(desktop, dialog, text, caption, owner);
     if (box.Window == 0) return;  // no room for a further window
     const bool ownerWasDisabled = desktop.EnableWindow(owner, false);
-    desktop.ShowWindow(box.Window, true);
+    desktop.ShowWindow(box.Window, SW_SHOWNORMAL);
     desktop.SetActiveWindow(box.Window);
     desktop.SetFocus(box.Button);
     while (dialog->Result() == 0 && !desktop.Quitting()) {

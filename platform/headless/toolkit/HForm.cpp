@@ -197,18 +197,34 @@ void HCustomForm::ChangeVisible(bool value) {
     FShowing = within;
 }
 
+namespace {
+
+TShowCommand CommandOf(HWindowState state) {
+    switch (state) {
+        case HWindowState::wsNormal:
+            return SW_SHOWNORMAL;
+        case HWindowState::wsMinimized:
+            return SW_SHOWMINNOACTIVE;
+        case HWindowState::wsMaximized:
+            return SW_SHOWMAXIMIZED;
+    }
+    return SW_SHOWNORMAL;
+}
+
+}  // namespace
+
 void HCustomForm::Appear() {
     Realize();
     FireGuarded(Kit().Names().OnShow);
     if (Dead()) return;
     ApplyPosition();
-    Kit().Desktop().ShowWindow(Handle(), true);
+    Kit().Desktop().ShowWindow(Handle(), CommandOf(FWindowState));
     BringToFront();
 }
 
 void HCustomForm::Disappear() {
     FireGuarded(Kit().Names().OnHide);
-    Kit().Desktop().ShowWindow(Window(), false);
+    Kit().Desktop().ShowWindow(Window(), SW_HIDE);
 }
 
 void HCustomForm::BringToFront() {

@@ -179,7 +179,7 @@ void HWinControl::SetVisible(bool value) {
     if (!value) LeaveFocus(false);
     HWinControl* parent = ParentControl();
     if (value && parent && parent->FHandle) Realize();
-    if (FHandle) Kit().Desktop().ShowWindow(FHandle, value);
+    if (FHandle) Kit().Desktop().SetWindowVisible(FHandle, value);
 }
 
 void HWinControl::SetEnabled(bool value) {

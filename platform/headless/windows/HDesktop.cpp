@@ -22,8 +22,29 @@ TRect Moved(const TRect& r, TPoint by) {
 
 }  // namespace
 
-HDesktop::HDesktop(TKernelService& kernel, TClockService& clock)
-    : FKernel(kernel), FClock(clock), FThread(kernel.GetCurrentThreadId()), FQueue(kernel) {}
+HDesktop::HDesktop(TKernelService& kernel, TClockService& clock, HCodeSpace& code)
+    : FKernel(kernel), FClock(clock), FCode(code), FThread(kernel.GetCurrentThreadId()), FQueue(kernel) {
+    ExportFunctions();
+}
+
+void HDesktop::ExportFunctions() {
+    const auto show = [this](std::span<const std::uintptr_t> arguments) -> std::uintptr_t {
+        const HWnd window = arguments[0];
+        const bool visible = static_cast<int>(arguments[1]) != SW_HIDE;
+        bool before = false;
+        RunOnOwner([&] {
+            const HWindow* found = FTable.Find(window);
+            before = found && found->Visible();
+            SetWindowVisible(window, visible);
+        });
+        return before;
+    };
+    FCode.Export("user32.dll", "ShowWindow", TCallKind::StdCall, 2, show);
+    FShowWindow = FCode.GetProcAddress("user32.dll", "ShowWindow");
+    // Looked for by name only; pictures come through the service.
+    FCode.Export("user32.dll", "PrintWindow", TCallKind::StdCall, 3,
+                 [](std::span<const std::uintptr_t>) -> std::uintptr_t { return 0; });
+}
 
 HDesktop::~HDesktop() {
     Quit();
@@ -109,7 +130,7 @@ void HDesktop::DestroyWindow(HWnd handle) {
     const std::vector<HWnd> doomed = Subtree(handle);
     for (const HWnd window : doomed) FTable.Find(window)->Dying = true;
     if (!root->IsChild()) DestroyOwned(handle);
-    ShowWindow(handle, false);
+    SetWindowVisible(handle, false);
     DropInput(handle);
     for (const HWnd window : doomed) Notify(window, WM_DESTROY, 0, 0);
     Remove(handle);
@@ -133,19 +154,23 @@ void HDesktop::Remove(HWnd handle) {
         if (!FTable.Find(*held)) *held = 0;
 }
 
-bool HDesktop::ShowWindow(HWnd handle, bool visible) {
+bool HDesktop::ShowWindow(HWnd handle, TShowCommand command) {
+    const std::uintptr_t arguments[] = {handle, static_cast<std::uintptr_t>(command)};
+    return FCode.Call(TCallKind::StdCall, FShowWindow, arguments) != 0;
+}
+
+void HDesktop::SetWindowVisible(HWnd handle, bool visible) {
     HWindow* window = FTable.Find(handle);
-    if (!window || window->Visible() == visible) return window && visible;
+    if (!window || window->Visible() == visible) return;
     window->Style ^= WS_VISIBLE;
     if (FJournal.Wants(HEntry::Window) && !window->IsChild()) {
         const std::string text = GetWindowTextA(handle);
         FJournal.Add(HEntry::Window, (visible ? "show " : "close ") + window->ClassName + " " + text);
     }
     Notify(handle, WM_SHOWWINDOW, visible ? 1 : 0, 0);
-    if (visible) return true;
+    if (visible) return;
     DropInput(handle);
     if (FActive == handle) ActivateNext(handle);
-    return false;
 }
 
 bool HDesktop::EnableWindow(HWnd handle, bool enabled) {
@@ -215,6 +240,17 @@ void HDesktop::BringWindowToTop(HWnd handle) {
     for (const HWindow* top : FTopLevel)
         if (top->Owner == handle) owned.push_back(top->Handle);
     for (const HWnd top : owned) BringWindowToTop(top);
+}
+
+bool HDesktop::GetWindowInfo(HWnd handle, TWindowInfo& info) {
+    bool found = false;
+    RunOnOwner([&] {
+        const HWindow* window = FTable.Find(handle);
+        if (!window) return;
+        info = {window->Style, window->ExStyle};
+        found = true;
+    });
+    return found;
 }
 
 bool HDesktop::IsWindowVisible(HWnd handle) {
@@ -305,11 +341,14 @@ void HDesktop::SetPropA(HWnd handle, TAtom atom, std::uintptr_t value) {
 }
 
 std::uintptr_t HDesktop::GetPropA(HWnd handle, TAtom atom) {
-    const HWindow* window = FTable.Find(handle);
-    if (!window) return 0;
-    for (const auto& [key, value] : window->Props)
-        if (key == atom) return value;
-    return 0;
+    std::uintptr_t found = 0;
+    RunOnOwner([&] {
+        const HWindow* window = FTable.Find(handle);
+        if (!window) return;
+        for (const auto& [key, value] : window->Props)
+            if (key == atom) found = value;
+    });
+    return found;
 }
 
 void HDesktop::Bury(std::shared_ptr<void> dead) {

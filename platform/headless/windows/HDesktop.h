@@ -18,6 +18,7 @@
 #include "platform/ClockService.h"
 #include "platform/KernelService.h"
 #include "platform/WindowService.h"
+#include "platform/headless/code/HCodeSpace.h"
 #include "platform/headless/windows/HJournal.h"
 #include "platform/headless/windows/HMessageQueue.h"
 #include "platform/headless/windows/HWindowTable.h"
@@ -30,10 +31,14 @@ class HDesktop final : public TWindowService {
     /// which raises nothing itself.
     using TReport = std::function<void(const std::exception&)>;
 
-    HDesktop(TKernelService& kernel, TClockService& clock);
+    /// Exports the functions that others may patch into `code`.
+    HDesktop(TKernelService& kernel, TClockService& clock, HCodeSpace& code);
     ~HDesktop() override;
 
     HJournal& Journal() { return FJournal; }
+    HCodeSpace& CodeSpace() { return FCode; }
+    /// From the bottom of the stacking order to its top.
+    const std::vector<HWindow*>& TopLevel() const { return FTopLevel; }
     std::uint32_t ProcessId() { return FKernel.GetCurrentProcessId(); }
     void SetErrorReport(TReport report) { FReport = std::move(report); }
 
@@ -41,7 +46,16 @@ class HDesktop final : public TWindowService {
     HWnd CreateWindowA(const HCreateParams& params);
     void DestroyWindow(HWnd window);
     HWindow* Find(HWnd window) const { return FTable.Find(window); }
-    bool ShowWindow(HWnd window, bool visible);
+    /// Calls the export of that name, which others may have patched. Answers whether the window was visible.
+    /// Any thread: from another one it waits until the owner's loop has shown it.
+    bool ShowWindow(HWnd window, TShowCommand command);
+    /// Shows or hides without that call, as windows do that change their state themselves.
+    void SetWindowVisible(HWnd window, bool visible);
+    /// Runs `code` on the owner's thread and waits for it; at once on that thread itself. Nothing runs once
+    /// the loops are to end: False then. `code` raises nothing.
+    bool RunOnOwner(const std::function<void()>& code);
+    bool OnOwnerThread() const { return FKernel.GetCurrentThreadId() == FThread; }
+    TKernelService& Kernel() const { return FKernel; }
     /// Answers whether the window was disabled before.
     bool EnableWindow(HWnd window, bool enabled);
     /// New rectangle, in the parent's client area for child windows. Everything below moves along.
@@ -57,7 +71,7 @@ class HDesktop final : public TWindowService {
     // Focus, activation, capture, keyboard and cursor.
     HWnd GetFocus() const { return FFocus; }
     /// Fails when the window or one of its parents is disabled.
-    bool SetFocus(HWnd window);
+    bool SetFocus(HWnd window) override;
     HWnd GetActiveWindow() const { return FActive; }
     HWnd GetCapture() const { return FCapture; }
     void SetCapture(HWnd window);
@@ -118,6 +132,7 @@ class HDesktop final : public TWindowService {
     LResult CallWindowProcA(TWndProc procedure, HWnd window, unsigned message, WParam wParam,
                             LParam lParam) override;
     bool IsWindow(HWnd window) override { return FTable.Exists(window); }
+    bool GetWindowInfo(HWnd window, TWindowInfo& info) override;
     bool IsWindowVisible(HWnd window) override;
     bool IsWindowEnabled(HWnd window) override;
     bool GetWindowRect(HWnd window, TRect& rect) override;
@@ -131,10 +146,12 @@ class HDesktop final : public TWindowService {
     TPoint ClientToScreen(HWnd window, TPoint point) override;
     TPoint ScreenToClient(HWnd window, TPoint point) override;
     HWnd SetActiveWindow(HWnd window) override;
+    bool PrintWindow(HWnd window, TBitmap& picture) override;
+    bool CopyScreen(const TRect& place, TBitmap& picture) override;
     void keybd_event(std::uint8_t key, std::uint8_t scan, std::uint32_t flags, std::uintptr_t extra) override;
 
  private:
-    struct TSentMessage;
+    struct TSentCode;
     struct TTimer {
         std::uint64_t Due = 0;
         std::uint32_t Interval = 0;
@@ -142,7 +159,7 @@ class HDesktop final : public TWindowService {
     };
 
     LResult CallTarget(HWnd window, unsigned message, WParam wParam, LParam lParam);
-    LResult SendFromOtherThread(HWnd window, unsigned message, WParam wParam, LParam lParam);
+    void ExportFunctions();
     /// False when there were none.
     bool RunSentMessages();
     bool NextMessage(TMessage& message);
@@ -169,6 +186,8 @@ class HDesktop final : public TWindowService {
 
     TKernelService& FKernel;
     TClockService& FClock;
+    HCodeSpace& FCode;
+    TCodeAddress FShowWindow = 0;
     const std::uintptr_t FThread;
     HJournal FJournal;
     TReport FReport;
@@ -183,7 +202,7 @@ class HDesktop final : public TWindowService {
     std::mutex FSharedLock;  // guards what other threads reach: atoms, registered messages, sent messages
     std::map<std::string, TAtom> FAtoms;
     std::map<std::string, unsigned> FRegistered;
-    std::deque<std::shared_ptr<TSentMessage>> FSent;
+    std::deque<std::shared_ptr<TSentCode>> FSent;
 
     std::unordered_map<TWndProc, std::shared_ptr<TWindowProcedure>> FProcs;
     TWndProc FNextProc = 0;

@@ -16,10 +16,10 @@ constexpr TWndProc TargetProcBase = TWndProc{1} << 33;
 
 }  // namespace
 
-/// A message that another thread sends and waits for.
-struct HDesktop::TSentMessage {
-    TMessage Message;
-    LResult Result = 0;
+/// Code that another thread waits for: what a message does that it sends, for one.
+struct HDesktop::TSentCode {
+    /// nil once it has run, or when nobody waits for it any more.
+    const std::function<void()>* Code = nullptr;
     std::unique_ptr<TEvent> Done;
 };
 
@@ -39,36 +39,43 @@ LResult HDesktop::Notify(HWnd handle, unsigned message, WParam wParam, LParam lP
 }
 
 LResult HDesktop::SendMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) {
-    if (FKernel.GetCurrentThreadId() != FThread) return SendFromOtherThread(window, message, wParam, lParam);
-    JournalMessage(HEntry::Sent, "send ", window, message, wParam, lParam);
-    return Notify(window, message, wParam, lParam);
+    LResult result = 0;
+    RunOnOwner([&] {
+        JournalMessage(HEntry::Sent, "send ", window, message, wParam, lParam);
+        result = Notify(window, message, wParam, lParam);
+    });
+    return result;
 }
 
-LResult HDesktop::SendFromOtherThread(HWnd window, unsigned message, WParam wParam, LParam lParam) {
-    const auto sent = std::make_shared<TSentMessage>();
-    sent->Message = {window, message, wParam, lParam};
+bool HDesktop::RunOnOwner(const std::function<void()>& code) {
+    if (OnOwnerThread()) {
+        code();
+        return true;
+    }
+    const auto sent = std::make_shared<TSentCode>();
+    sent->Code = &code;
     sent->Done = FKernel.CreateEventA();
     {
         const std::lock_guard lock(FSharedLock);
-        if (FQuit) return 0;
+        if (FQuit) return false;
         FSent.push_back(sent);
     }
     FQueue.Wake();
     sent->Done->WaitFor(WaitForever);
-    return sent->Result;
+    return sent->Code == nullptr;
 }
 
 bool HDesktop::RunSentMessages() {
     for (bool any = false;; any = true) {
-        std::shared_ptr<TSentMessage> sent;
+        std::shared_ptr<TSentCode> sent;
         {
             const std::lock_guard lock(FSharedLock);
             if (FSent.empty()) return any;
             sent = FSent.front();
             FSent.pop_front();
         }
-        const TMessage& m = sent->Message;
-        sent->Result = SendMessageA(m.Window, m.Number, m.WParameter, m.LParameter);
+        (*sent->Code)();
+        sent->Code = nullptr;
         sent->Done->SetEvent();
     }
 }
@@ -202,13 +209,13 @@ void HDesktop::WaitMessage() {
 }
 
 void HDesktop::Quit() {
-    std::deque<std::shared_ptr<TSentMessage>> waiting;
+    std::deque<std::shared_ptr<TSentCode>> waiting;
     {
         const std::lock_guard lock(FSharedLock);
         FQuit = true;
         waiting.swap(FSent);
     }
-    for (const std::shared_ptr<TSentMessage>& sent : waiting) sent->Done->SetEvent();
+    for (const std::shared_ptr<TSentCode>& sent : waiting) sent->Done->SetEvent();
     FQueue.Wake();
 }
 

@@ -11,11 +11,12 @@
 namespace rux {
 
 inline constexpr std::uint32_t WS_POPUP = 0x80000000;
-inline constexpr std::uint32_t WS_CHILD = 0x40000000;
 inline constexpr std::uint32_t WS_VISIBLE = 0x10000000;
 inline constexpr std::uint32_t WS_DISABLED = 0x08000000;
 inline constexpr std::uint32_t WS_EX_TOPMOST = 0x00000008;
-inline constexpr std::uint32_t WS_EX_MDICHILD = 0x00000040;
+
+class HCanvas;
+struct HWindow;
 
 /// What answers the messages of a window. Lives at least as long as the window.
 class HWindowTarget {
@@ -23,6 +24,9 @@ class HWindowTarget {
     virtual ~HWindowTarget() = default;
     /// Lets no exception through: it reports what its own code raises.
     virtual LResult WndProc(HWnd window, unsigned message, WParam wParam, LParam lParam) = 0;
+    /// Draws the window's client area, without the windows on it. The canvas has its origin there and lets
+    /// nothing be drawn outside.
+    virtual void Paint(HCanvas&, const HWindow&) {}
     /// The window exists no more, whether or not WM_DESTROY reached the target's own procedure. Must not call
     /// back into the window system.
     virtual void WindowGone(HWnd) {}

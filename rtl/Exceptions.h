@@ -43,6 +43,7 @@ using EAccessViolation = TNamedException<Exception, "EAccessViolation">;
 using EAssertionFailed = TNamedException<Exception, "EAssertionFailed">;
 using EComponentError = TNamedException<Exception, "EComponentError">;
 using EConvertError = TNamedException<Exception, "EConvertError">;
+using EFilerError = TNamedException<Exception, "EFilerError">;
 using EInOutError = TNamedException<Exception, "EInOutError">;
 using EInvalidOp = TNamedException<Exception, "EInvalidOp">;
 using EInvalidOperation = TNamedException<Exception, "EInvalidOperation">;

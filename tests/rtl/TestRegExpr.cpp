@@ -1,0 +1,181 @@
+#include "rtl/RegExpr.h"
+
+#include <pthread.h>
+
+#include <functional>
+#include <utility>
+
+#include "tests/rtl/TestCodePage.h"
+
+namespace rux::test {
+namespace {
+
+using std::string;
+using namespace std::string_literals;
+
+class TRegExprTest : public TRtlTest {};
+
+/// "<place>:<match>", then "|<match>" for each group up to the last that took part ("-" for one that did
+/// not); or "no", "beyond", or the message of what was raised.
+string Answer(std::string_view expression, std::string_view subject,
+              std::uint64_t budget = RegExprStepBudget) {
+    try {
+        TRegExpr compiled(expression);
+        if (!compiled.Exec(subject, budget)) return compiled.BudgetExceeded() ? "beyond" : "no";
+        string out = std::to_string(compiled.MatchPos(0)) + ":", gap;
+        for (int group = 0; group < RegExprPlaces; ++group) {
+            if (group > 0) gap += '|';
+            const int pos = compiled.MatchPos(group), len = compiled.MatchLen(group);
+            if (pos < 0 || len < 0) {
+                EXPECT_EQ(std::pair(pos, len), std::pair(-1, -1));
+                gap += '-';
+                continue;
+            }
+            out += gap +
+                   string(subject.substr(static_cast<std::size_t>(pos) - 1, static_cast<std::size_t>(len)));
+            gap.clear();
+        }
+        return out;
+    } catch (const ERegExpr& e) {
+        return e.Message();
+    }
+}
+
+struct TRow {
+    const char *Expression, *Subject, *Answer;
+};
+
+void Check(std::initializer_list<TRow> rows) {
+    for (const TRow& row : rows) {
+        EXPECT_EQ(Answer(Ansi(row.Expression), Ansi(row.Subject)), Ansi(row.Answer))
+            << row.Expression << " in " << row.Subject;
+    }
+}
+
+TEST_F(TRegExprTest, MatchesAsTheLibraryDoes) {
+    // clang-format off
+    Check({
+        {"a.b", "a\nb", "1:a\nb"}, {"a$", "a\n", "no"}, {"^b", "a\nb", "no"}, {"b", "aab", "3:b"}, {"B", "b", "no"},
+        {"a|ab", "ab", "1:a"}, {"(|a)b", "ab", "1:ab|a"}, {"a|", "b", "1:"}, {"(a)|(b)", "b", "1:b|-|b"}, {"", "", "TRegExpr(exec): Not Assigned Expression Property"},
+        {"a*", "baa", "1:"}, {"a+?", "aaa", "1:a"}, {"a{2}", "aaa", "1:aa"}, {"a{2,}", "aaaa", "1:aaaa"}, {"a{1,2}?b", "aaab", "2:aab"}, {"(ab){2,3}", "ababab", "1:ababab|ab"}, {"(ab){2,3}?", "ababab", "1:abab|ab"}, {"xa{0}(b){0}y", "xy", "1:xy"},
+        {"(?-g)a+", "aa", "1:a"}, {"(a|ab)(c|bcd)(d*)", "abcd", "1:abcd|a|bcd|"},
+        {"[]a]+", "a]b", "1:a]"}, {"[^]]+", "]ab", "2:ab"}, {"[a-]+", "-ab", "1:-a"}, {"[a-c-e]+", "d-eb", "2:-eb"}, {"[\\d-x]+", "-1x", "1:-1x"}, {"[a-\\d]+", "b-5a", "2:-5a"}, {"[c-da-z]+", "-xc", "2:xc"}, {"[\\D\\W]+", "1WDa", "2:WD"}, {"[[:alpha:]]", "h]", "1:h]"},
+        {"\\d+\\D", "a12_", "2:12_"}, {"\\w+\\W", ".a_1Z-", "2:a_1Z-"}, {"\\s+\\S", "a \t\n\r\fb", "2: \t\n\r\fb"}, {"\\s", "\v", "no"},
+        {"\\t\\n\\r\\f\\a\\e\\x41\\x{42}\\.\\q", "\t\n\r\f\a\x1B" "AB.q", "1:\t\n\r\f\a\x1B" "AB.q"},
+        {"\\bb\\B.", "ab bc", "4:bc"}, {"\\Aa\\Z", "a", "1:a"}, {"b\\Z", "ba", "no"}, {"\\z", "z", "1:z"},
+        {"(a|b)\\1", "abb", "2:bb|b"}, {"(a)|b\\1", "b", "no"}, {"(a*)x\\1*b", "aaxaaaab", "1:aaxaaaab|aa"}, {"(a)\\1{2}", "aaa", "1:aaa|a"}, {"\\5", "5", "no"}, {"(x\\1?)+y", "xxy", "1:xxy|x"}, {"(a*)b\\1$", "aaba", "2:aba|a"}, {"((a\\2b|a)x)+$", "axabx", "1:axabx|abx|ab"},
+        {"(?i)a[b-c]\\xE9", "AC\xC3\xA9", "no"}, {"a(?i)b", "aB", "1:aB"}, {"(a(?i)b)c", "aBC", "no"}, {"(?i)(b)\\1", "bB", "1:bB|b"}, {"(?i)[^b]", "Ba", "2:a"}, {"(?i-i)a", "A", "no"}, {"a(?#note)b(?i)?C", "abc", "1:abc"},
+        {"(?-s)a.", "a\na\ra.", "5:a."}, {"(?m)^b$", "a\r\nb\r\nc", "4:b"}, {"(?m)$", "a\r\n", "2:"}, {"(?m)^\\n", "\r\n", "no"}, {"(?x)a b # c\n\\ d", "ab d", "1:ab d"}, {"(?x)[ ]", "a ", "2: "},
+        {"a{2", "a{2", "1:a{2"}, {"a{,3}", "a{,3}", "1:a{,3}"}, {"{2}", "{2}", "1:{2}"}, {"a{{2}", "a{{", "1:a{{"}, {"a{1,x}]}", "a{1,x}]}", "1:a{1,x}]}"},
+        {"[^\\\\]:", "a:b", "1:a:"}, {"[^\\\\]:", ":b", "no"}, {"[^\\\\]:", "a\\:b", "no"}, {"^?b", "ab", "2:b"}, {"(a{0,2})*b", "aaab", "1:aaab|"}, {"((a{0,1}){2,3}){2}", "b", "1:||"},
+    });
+    for (const char* subject : {"12abc", "-5x", "0", "0.5", "00", "-0.5", "", "x\r\n12"}) {
+        const bool number = string(subject).find_first_of("125") < 2 || subject == "0"s || subject == "0.5"s;
+        EXPECT_EQ(ExecRegExpr("^[-+]?([1-9]\\d*(\\.\\d+)?)|(^0(\\.\\d+)?)$", subject), number && subject != "-0.5"s) << subject;
+    }
+    // clang-format on
+    EXPECT_EQ(Answer("b\0["s, "ab\0"s), "2:b");
+    EXPECT_EQ(Answer("[^a]|b$", "a\0b"s), "no");
+}
+
+TEST_F(TRegExprTest, RefusesWithTheLibrarysTexts) {
+    // clang-format off
+    constexpr std::pair<const char*, const char*> rows[] = {
+        {"(a*)*", "*+ Operand Could Be Empty (pos 4)"}, {"^*", "*+ Operand Could Be Empty (pos 1)"}, {"(a|)+", "*+ Operand Could Be Empty (pos 4)"}, {"(?i)*", "*+ Operand Could Be Empty (pos 4)"}, {"(?x)a *", "*+ Operand Could Be Empty (pos 6)"},
+        {"a**", "Nested *?+ (pos 2)"}, {"a???", "Nested *?+ (pos 3)"}, {"a{2}{3}", "Nested *?+ (pos 4)"}, {"*a", "?+*{ Follows Nothing (pos 1)"}, {"a|?", "?+*{ Follows Nothing (pos 3)"},
+        {"(", "ParseReg Unmatched () (pos 1)"}, {")", "ParseReg Unmatched () (pos 0)"}, {"誠)", "ParseReg Unmatched () (pos 2)"}, {"[", "Unmatched [] (pos 1)"}, {"[]", "Unmatched [] (pos 2)"}, {"[^]", "Unmatched [] (pos 3)"},
+        {"\\", "Trailing \\ (pos 1)"}, {"[\\", "Parse Atom Trailing \\ (pos 2)"}, {"[z-a]", "Invalid [] Range (pos 3)"}, {"[z-\\x41]", "Invalid [] Range (pos 6)"},
+        {"(?:a)", "Urecognized Modifier (pos 4)"}, {"(?=a)", "Urecognized Modifier (pos 4)"}, {"(?!a)", "Urecognized Modifier (pos 4)"}, {"(?i", "Urecognized Modifier (pos 3)"}, {"(?#", "Unclosed (?#Comment) (pos 3)"},
+        {"\\x4", "No Hex Code After \\x (pos 3)"}, {"\\x{4", "No Hex Code After \\x (pos 4)"}, {"\\xg", "Bad Hex Digit (pos 2)"}, {"\\x{100}", "Hex Code After \\x Is Too Big (pos 5)"},
+        {"a{3,2}", "BRACE Min Param Greater then Max (pos 5)"}, {"a{123456789}", "BRACES Argument Too Big (pos 11)"}, {"()()()()()()()()()()()()()()()", "ParseReg Too Many () (pos 29)"}};
+    // clang-format on
+    for (const auto& [expression, text] : rows) {
+        EXPECT_EQ(Answer(Ansi(expression), ""), "TRegExpr(comp): "s + text) << expression;
+    }
+    EXPECT_EQ(Answer("()()()()()()()()()()()()()(x)", "x"), "1:x||||||||||||||x");
+    EXPECT_EQ(Raised([] { TRegExpr(string(RegExprMaxExpression + 1, 'a')); }),
+              "ERegExpr: TRegExpr(comp): Regexp Too Big (pos 0)");
+}
+
+TEST_F(TRegExprTest, SeesCharactersOfTheCodePage) {
+    // The second bytes are 5C \, 7C |, 5E ^, 5F _, 5B [, 5D ], 7B {, 7D }.
+    // clang-format off
+    Check({
+        {"誠", "x誠", "2:誠"}, {"^億x$", "億x", "1:億x"}, {"億", "root", "no"}, {"a區b", "a區b", "1:a區b"}, {"[乕乚]+$", "乚乕", "1:乚乕"}, {"乕a", "乕a", "1:乕a"},
+        {"x亄2倉*", "x亄2倉倉", "1:x亄2倉倉"}, {"^.$", "誠", "1:誠"}, {"[^中]", "中国", "3:国"}, {"泄", "中国", "no"}, {"\\\\(.)", "誠x\\億", "4:\\億|億"}, {"\\誠", "誠", "1:誠"},
+        {"[亄-誠]", "泄誠", "1:泄"}, {"\\w", "卂丄", "no"}, {"\\bx", "卂x", "3:x"}, {"\\xD5\\x5C+", "誠誠", "1:誠誠"}, {"[\\xD5\\x{5C}]", "\\誠", "2:誠"}, {"(国|中)+?\\1$", "国中中", "1:国中中|中"},
+        {"(?i)丄", "乤", "no"}, {"(?i)Ёа[ⅰ][Ａ]", "ёАⅠａ", "1:ёАⅠａ"}, {"(?i)[^α]", "Αα中", "5:中"},
+    });
+    // clang-format on
+    EXPECT_EQ(Answer("^.$", "\xD5"), "1:\xD5");
+    EXPECT_EQ(Answer("\\xD5", Ansi("誠")), "no");
+}
+
+TEST_F(TRegExprTest, KnowsTheRussianAlphabet) {
+    TCodePageTables page;
+    page.Number = 1251;
+    page.ToWide.resize(0x10000);
+    page.FromWide.resize(0x10000);
+    const auto add = [&page](unsigned byte, unsigned unit) {
+        page.ToWide[byte] = static_cast<char16_t>(unit);
+        page.FromWide[unit] = static_cast<std::uint16_t>(byte);
+    };
+    for (unsigned byte = 0xC0; byte <= 0xFF; ++byte) add(byte, 0x410 + byte - 0xC0);
+    add(0xA8, u'Ё');
+    add(0xB8, u'ё');
+    SetAnsiCodePage(page);
+    // clang-format off
+    Check({{"[а-я]+", "ЁёбЯ", "2:ёб"}, {"[А-Я]+", "ёЁБя", "2:ЁБ"}, {"[а-Я]+", "-яЁбё", "2:яЁбё"}, {"(?-r)[а-я]", "ё", "no"},
+           {"(?-r)[а-Я]", "", "TRegExpr(comp): Invalid [] Range (pos 8)"}, {"[а-б]", "ё", "no"}});
+    // clang-format on
+}
+
+/// Runs `action` where a stack is as small as a thread of the application may have it.
+void OnSmallStack(std::function<void()> action) {
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    pthread_attr_setstacksize(&attributes, 256 * 1024);
+    pthread_t thread{};
+    const auto enter = [](void* run) -> void* {
+        (*static_cast<std::function<void()>*>(run))();
+        return nullptr;
+    };
+    ASSERT_EQ(pthread_create(&thread, &attributes, enter, &action), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+}
+
+TEST_F(TRegExprTest, NeitherOverflowsNorHangs) {
+    const string run(1'000'000, 'a');
+    OnSmallStack([&run] {
+        for (const char* expression : {".*b", "(a|b)*b", "(?i)[^B]+B"}) {
+            EXPECT_EQ(Answer(expression, run + "b").substr(0, 8), "1:aaaaaa") << expression;
+        }
+        for (const char* expression : {".*x", "(a+)(x|y)", "a*?b", "(ab)*c"}) {
+            EXPECT_EQ(Answer(expression, run), "no") << expression;
+        }
+        for (const char* expression : {"(a|aa)+$", "((a{0,9}){0,9})+$", "(a*)\\1b", "((a+)+)+$"}) {
+            EXPECT_EQ(Answer(expression, run.substr(0, 60000) + "c", 2'000'000), "beyond") << expression;
+        }
+        EXPECT_EQ(Answer("((((((a))))))*c", run), "beyond");  // more ways back than are kept
+        constexpr TRow repeated[] = {{"(", "", "TRegExpr(comp): ParseReg Too Many () (pos 15)"},
+                                     {"[", "", "TRegExpr(comp): Unmatched [] (pos 1000000)"},
+                                     {"(?", "", "TRegExpr(comp): Urecognized Modifier (pos 1000000)"},
+                                     {"a|", "b", "1:"},
+                                     {"(?i)", "b", "1:"},
+                                     {"(?i)[\\x01-\\xFF]", "b", "no"},
+                                     {"\\1?", "b", "1:"},
+                                     {"x{1", "b", "no"}};
+        for (const auto& [part, subject, answer] : repeated) {
+            string expression;
+            while (expression.size() < run.size()) expression += part;
+            EXPECT_EQ(Answer(expression, subject), answer) << part;
+        }
+    });
+    EXPECT_EQ(Answer("^(a{1000})\\1b", run.substr(0, 2000), 5500), "beyond");  // comparing costs too
+    EXPECT_EQ(Answer("ab", "aab", 6), "beyond");
+    EXPECT_EQ(Answer("ab", "aab", 7), "2:ab");
+}
+
+}  // namespace
+}  // namespace rux::test

@@ -1,6 +1,7 @@
 #include "platform/headless/code/HCodeSpace.h"
 
 #include <array>
+#include <cstdio>
 #include <cstring>
 
 #include "platform/headless/HLimits.h"
@@ -75,7 +76,8 @@ bool HCodeSpace::VirtualProtect(TCodeAddress address, std::size_t size, std::uin
                                 std::uint32_t& oldProtection) {
     const std::lock_guard lock(FLock);
     if (size == 0 || size > SpaceEnd) return false;
-    const std::uint64_t first = address / PageSize * std::uint64_t{PageSize}, end = address + size;
+    const std::uint64_t first = address / PageSize * std::uint64_t{PageSize};
+    const std::uint64_t end = std::uint64_t{address} + size;
     for (std::uint64_t at = first; at < end; at += PageSize)
         if (!FPages.count(static_cast<TCodeAddress>(at))) return false;
     oldProtection = PageOf(address)->Protection;
@@ -134,6 +136,11 @@ TCodeAddress HCodeSpace::NewSlot() {
     return FSlotPage + static_cast<TCodeAddress>(FSlotsUsed++) * SlotSize;
 }
 
+void HCodeSpace::FreeSlot(TCodeAddress slot) {
+    Put(slot, std::array<std::uint8_t, SlotSize>{});
+    FFreeSlots.push_back(slot);
+}
+
 TCodeAddress HCodeSpace::Make(TCallKind kind, unsigned arguments, TNativeBody body) {
     const TCodeAddress at = NewSlot();
     if (at == 0) return 0;
@@ -151,48 +158,61 @@ TCodeAddress HCodeSpace::MakeFunction(TCallKind kind, unsigned arguments, TNativ
     return Make(kind, arguments, std::move(body));
 }
 
-void HCodeSpace::FreeFunction(TCodeAddress function) {
-    std::shared_ptr<TFunction> gone;  // its body may hold what locks
-    const std::lock_guard lock(FLock);
+std::shared_ptr<HCodeSpace::TFunction> HCodeSpace::Take(TCodeAddress function) {
     const auto found = FFunctions.find(function);
-    if (found == FFunctions.end()) return;
-    gone = std::move(found->second);
+    if (found == FFunctions.end()) return nullptr;
+    std::shared_ptr<TFunction> gone = std::move(found->second);
     FFunctions.erase(found);
-    Put(function, std::array<std::uint8_t, SlotSize>{});
-    FFreeSlots.push_back(function);
+    FreeSlot(function);
+    return gone;
+}
+
+void HCodeSpace::FreeFunction(TCodeAddress function) {
+    std::shared_ptr<TFunction> gone;
+    const std::lock_guard lock(FLock);
+    gone = Take(function);
 }
 
 TCodeAddress HCodeSpace::Export(const std::string& module, const std::string& name, TCallKind kind,
                                 unsigned arguments, TNativeBody body) {
+    std::shared_ptr<TFunction> gone, unused;
     const std::lock_guard lock(FLock);
-    RemoveExport(module, name);
+    gone = TakeExport({LowerCase(module), name});
     const TCodeAddress function = Make(kind, arguments, std::move(body));
     const TCodeAddress stub = function ? NewSlot() : 0;
-    if (stub == 0) return 0;
+    if (stub == 0) {
+        unused = Take(function);
+        return 0;
+    }
     // jmp [memory], the memory right behind it
     const TCodeAddress memory = stub + 8;
     std::array<std::uint8_t, SlotSize> bytes{0xFF, 0x25};
     std::memcpy(bytes.data() + 2, &memory, 4);
     std::memcpy(bytes.data() + 8, &function, 4);
     Put(stub, bytes);
-    FExports[{LowerCase(module), name}] = stub;
+    FExports[{LowerCase(module), name}] = {stub, function};
     return function;
 }
 
-void HCodeSpace::RemoveExport(const std::string& module, const std::string& name) {
-    const std::lock_guard lock(FLock);
-    const auto found = FExports.find({LowerCase(module), name});
-    if (found == FExports.end()) return;
-    const TCodeAddress stub = found->second;
+std::shared_ptr<HCodeSpace::TFunction> HCodeSpace::TakeExport(const TExportName& name) {
+    const auto found = FExports.find(name);
+    if (found == FExports.end()) return nullptr;
+    const TExport gone = found->second;
     FExports.erase(found);
-    FreeFunction(Dword(stub + 8, Readable));
-    FFreeSlots.push_back(stub);
+    FreeSlot(gone.Stub);
+    return Take(gone.Function);
+}
+
+void HCodeSpace::RemoveExport(const std::string& module, const std::string& name) {
+    std::shared_ptr<TFunction> gone;
+    const std::lock_guard lock(FLock);
+    gone = TakeExport({LowerCase(module), name});
 }
 
 TCodeAddress HCodeSpace::GetProcAddress(const std::string& module, const std::string& name) {
     const std::lock_guard lock(FLock);
     const auto found = FExports.find({LowerCase(module), name});
-    return found == FExports.end() ? 0 : found->second;
+    return found == FExports.end() ? 0 : found->second.Stub;
 }
 
 // ---------------------------------------------------------------------------------------------- calls

@@ -48,6 +48,9 @@ class HCodeSpace final : public TCodeService {
         unsigned Arguments;
         TNativeBody Body;
     };
+    struct TExport {
+        TCodeAddress Stub, Function;
+    };
     using TExportName = std::pair<std::string, std::string>;
 
     TPage* PageOf(TCodeAddress address);
@@ -56,7 +59,12 @@ class HCodeSpace final : public TCodeService {
     void Put(TCodeAddress address, std::span<const std::uint8_t> bytes);
     TCodeAddress NewPages(std::size_t size, std::uint32_t protection);
     TCodeAddress NewSlot();
+    void FreeSlot(TCodeAddress slot);
     TCodeAddress Make(TCallKind kind, unsigned arguments, TNativeBody body);
+    /// Takes a function or an export out. What is answered is to be freed without the lock: a body may own
+    /// what locks.
+    std::shared_ptr<TFunction> Take(TCodeAddress function);
+    std::shared_ptr<TFunction> TakeExport(const TExportName& name);
     /// Obeys the instructions from there to the body that they lead to.
     std::shared_ptr<TFunction> Follow(TCodeAddress at);
 
@@ -68,7 +76,7 @@ class HCodeSpace final : public TCodeService {
     std::size_t FSlotsUsed = 0;
     std::vector<TCodeAddress> FFreeSlots;
     std::map<TCodeAddress, std::shared_ptr<TFunction>> FFunctions;
-    std::map<TExportName, TCodeAddress> FExports;
+    std::map<TExportName, TExport> FExports;
 };
 
 }  // namespace rux

@@ -20,7 +20,7 @@ std::string ObjectAtomName(std::uint32_t process) {
 }  // namespace
 
 HToolkit::HToolkit(HDesktop& desktop, TClockService& clock)
-    : FDesktop(desktop), FClock(clock), FNextRef(HRefBase) {
+    : FDesktop(desktop), FClock(clock), FRegistered(desktop.CodeSpace()), FNextRef(HRefBase) {
     RegisterToolkitClasses(FClasses);
     FObjectAtom = desktop.GlobalAddAtomA(ObjectAtomName(desktop.ProcessId()));
     FApplication = std::make_unique<HApplication>(*this, *FClasses.FindDef("TApplication"));

@@ -9,6 +9,7 @@
 #include "platform/headless/toolkit/HApplication.h"
 #include "platform/headless/toolkit/HClasses.h"
 #include "platform/headless/toolkit/HNames.h"
+#include "platform/headless/toolkit/HRegisteredClasses.h"
 #include "platform/headless/windows/HDesktop.h"
 #include "platform/toolkit/Forms.h"
 
@@ -29,6 +30,9 @@ class HToolkit final : public TToolkit, public TScreen, public TMouse {
     HClasses& ClassDefs() { return FClasses; }
     HApplication& App() { return *FApplication; }
     const HNames& Names() const { return FNames; }
+    HRegisteredClasses& RegisteredClasses() { return FRegistered; }
+    /// Calls the export of that name, which others may have patched. See HRegisteredClasses.
+    void RegisterClass(const TClass& aClass) { FRegistered.RegisterClass(aClass); }
 
     /// An object of a class that is known by name, not yet owned by anybody.
     std::unique_ptr<HObject> Make(std::string_view className);
@@ -89,6 +93,7 @@ class HToolkit final : public TToolkit, public TScreen, public TMouse {
     TClockService& FClock;
     HNames FNames;
     HClasses FClasses;
+    HRegisteredClasses FRegistered;
     std::uint64_t FNextRef;
     std::unordered_map<std::uint64_t, HObject*> FLive;
     TAtom FObjectAtom = 0;

@@ -18,8 +18,8 @@ inline constexpr std::size_t HAtomLimit = 0x4000;
 /// Bounds of a control's position and size, before and behind zero. A form file may ask for more, and sums
 /// along a chain of parents must stay numbers.
 inline constexpr int HCoordLimit = 1 << 15;
-/// Bound of every position on the screen.
-inline constexpr int HScreenCoordLimit = 1 << 30;
+/// Bound of every position on the screen; distances must stay numbers too.
+inline constexpr int HScreenCoordLimit = 1 << 29;
 /// Pages of code in the process, of 4,096 bytes each.
 inline constexpr std::size_t HCodePageLimit = 1u << 14;
 /// Windows alive at once.

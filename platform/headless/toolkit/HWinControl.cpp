@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/headless/HLimits.h"
+#include "platform/headless/drawing/HControlPainter.h"
 #include "platform/headless/toolkit/HForm.h"
 #include "platform/headless/toolkit/HToolkit.h"
 
@@ -260,6 +261,10 @@ LResult HWinControl::WndProc(HWnd, unsigned number, WParam wParam, LParam lParam
     HMessage message{number, wParam, lParam};
     Kit().App().Guarded([&] { Receive(message); });
     return message.Result;
+}
+
+void HWinControl::Paint(HCanvas& canvas, const HWindow& window) {
+    PaintControl(*this, canvas, window);
 }
 
 void HWinControl::WindowGone(HWnd window) {

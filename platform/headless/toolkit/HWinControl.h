@@ -66,6 +66,7 @@ class HWinControl : public With<HControl, TWinControl>, public HWindowTarget {
 
     // HWindowTarget
     LResult WndProc(HWnd window, unsigned message, WParam wParam, LParam lParam) override;
+    void Paint(HCanvas& canvas, const HWindow& window) override;
     void WindowGone(HWnd window) override;
     std::string JournalName() const override { return Path(); }
 

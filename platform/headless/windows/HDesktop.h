@@ -94,6 +94,10 @@ class HDesktop final : public TWindowService {
     /// Makes all loops end, and everybody whose sent message has not been handled go on. Any thread.
     void Quit();
     bool Quitting() const { return FQuit; }
+    /// Sets `event` at Quit, or at once when that was called already: for threads that wait for what only a
+    /// loop can bring about. Any thread.
+    void AddQuitEvent(TEvent& event);
+    void RemoveQuitEvent(TEvent& event);
     /// What a window's own procedure leaves to the system.
     LResult DefWindowProc(HWnd window, unsigned message, WParam wParam, LParam lParam);
     /// Sends without a line in the journal: the system's own notifications.
@@ -199,7 +203,9 @@ class HDesktop final : public TWindowService {
     int FDepth = 0;
     std::vector<std::shared_ptr<void>> FGraveyard;
 
-    std::mutex FSharedLock;  // guards what other threads reach: atoms, registered messages, sent messages
+    /// Guards what other threads reach: atoms, registered messages, sent messages, who waits for the end.
+    std::mutex FSharedLock;
+    std::vector<TEvent*> FQuitEvents;
     std::map<std::string, TAtom> FAtoms;
     std::map<std::string, unsigned> FRegistered;
     std::deque<std::shared_ptr<TSentCode>> FSent;

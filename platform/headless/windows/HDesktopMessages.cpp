@@ -208,12 +208,24 @@ void HDesktop::WaitMessage() {
     }
 }
 
+void HDesktop::AddQuitEvent(TEvent& event) {
+    const std::lock_guard lock(FSharedLock);
+    FQuitEvents.push_back(&event);
+    if (FQuit) event.SetEvent();
+}
+
+void HDesktop::RemoveQuitEvent(TEvent& event) {
+    const std::lock_guard lock(FSharedLock);
+    std::erase(FQuitEvents, &event);
+}
+
 void HDesktop::Quit() {
     std::deque<std::shared_ptr<TSentCode>> waiting;
     {
         const std::lock_guard lock(FSharedLock);
         FQuit = true;
         waiting.swap(FSent);
+        for (TEvent* event : FQuitEvents) event->SetEvent();
     }
     for (const std::shared_ptr<TSentCode>& sent : waiting) sent->Done->SetEvent();
     FQueue.Wake();

@@ -1,0 +1,51 @@
+// How the toolkit's controls look.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/headless/drawing/HCanvas.h"
+#include "platform/headless/toolkit/HWinControl.h"
+
+namespace rux {
+
+/// Draws the client area of a control, by the class it is of, and the graphic controls on it.
+void PaintControl(HWinControl& control, HCanvas& canvas, const HWindow& window);
+
+/// Draws one control into its room, whose left upper corner is the canvas's origin.
+using HPaintProc = void (*)(HControl& control, HCanvas& canvas, const TRect& room);
+struct HPainter {
+    /// The class and those of its descendants that have no painter of their own.
+    std::string_view ClassName;
+    HPaintProc Paint;
+};
+std::span<const HPainter> ButtonPainters();
+std::span<const HPainter> TextPainters();
+std::span<const HPainter> ListPainters();
+std::span<const HPainter> PanelPainters();
+
+// What a control says about its looks. Properties that it does not know read as 0, empty or the fallback.
+
+int LookInt(const HObject& object, std::string_view property, int fallback = 0);
+/// An enumeration's element.
+std::string LookName(const HObject& object, std::string_view property);
+/// A part or another object; nil for none.
+HObject* LookPart(const HObject& object, std::string_view property);
+HTextAlign LookAlignment(const HControl& control, std::string_view property, HTextAlign fallback);
+/// A colour of the object's own, else the fallback.
+TColor LookColor(const HObject& object, TColor fallback);
+/// A colour of its own, else that of what it stands on.
+TColor LookGround(const HControl& control);
+/// Colour of its text.
+TColor LookInk(const HControl& control);
+std::string LookCaption(const HControl& control);
+
+/// A triangle that points up or down, or left or right, in the middle of the place.
+enum class HArrow { Up, Down, Left, Right };
+void PaintArrow(HCanvas& canvas, const TRect& place, HArrow arrow, TColor color);
+/// A small button with an arrow on it.
+void PaintArrowButton(HCanvas& canvas, const TRect& place, HArrow arrow);
+void PaintImage(HCanvas& canvas, const TRect& place);
+
+}  // namespace rux

@@ -1,0 +1,129 @@
+// List boxes, combo boxes, grids, list views, headers, status bars.
+#include <algorithm>
+
+#include "platform/headless/HLimits.h"
+#include "platform/headless/drawing/HControlPainter.h"
+#include "platform/headless/toolkit/HLists.h"
+
+namespace rux {
+
+namespace {
+
+constexpr int Row = HCanvas::LineHeight, ArrowWidth = 16;
+
+void PaintListBox(HControl& control, HCanvas& canvas, const TRect& room) {
+    canvas.Fill(room, LookColor(control, clWindow));
+    const auto* list = dynamic_cast<const HItemsControl*>(&control);
+    if (!list) return;
+    const std::vector<std::string> lines = list->Items().Lines();
+    const TColor ink = LookInk(control);
+    for (int i = 0; i < static_cast<int>(lines.size()) && i * Row < room.Bottom; ++i) {
+        const TRect line{0, i * Row, room.Right, (i + 1) * Row};
+        const bool chosen = i == list->ItemIndex();
+        if (chosen) canvas.Fill(line, clHighlight);
+        canvas.Text({2, line.Top, line.Right, line.Bottom}, lines[static_cast<std::size_t>(i)],
+                    chosen ? clHighlightText : ink);
+    }
+}
+
+void PaintComboBox(HControl& control, HCanvas& canvas, const TRect& room) {
+    canvas.Fill(room, LookColor(control, clWindow));
+    canvas.Edge(room, HEdge::Sunken);
+    const int edge = HClientEdge;
+    canvas.Text({edge + 2, 0, room.Right - edge - ArrowWidth, room.Bottom}, control.TextRef(),
+                LookInk(control));
+    PaintArrowButton(canvas, {room.Right - edge - ArrowWidth, edge, room.Right - edge, room.Bottom - edge},
+                     HArrow::Down);
+}
+
+/// Buttons with texts next to each other, as wide as the collection's items say.
+void PaintSections(const HObject* part, std::string_view text, HCanvas& canvas, const TRect& bar, TColor ink,
+                   HEdge edge) {
+    canvas.Fill(bar, clBtnFace);
+    const auto* sections = dynamic_cast<const HCollection*>(part);
+    int left = bar.Left;
+    if (!sections) return;
+    for (const HObject* section : sections->Items()) {
+        if (left >= bar.Right) return;
+        const HObject* title = LookPart(*section, "Title");
+        std::string caption = LookName(title ? *title : *section, title ? "Caption" : text);
+        if (caption.empty()) caption = LookName(*section, "FieldName");
+        const bool last = section == sections->Items().back() && edge == HEdge::Sunken;
+        const int right = last ? bar.Right : left + std::max(LookInt(*section, "Width", 64), 1);
+        canvas.Edge({left, bar.Top, right, bar.Bottom}, edge);
+        canvas.Text({left + 4, bar.Top, right - 3, bar.Bottom}, caption, ink);
+        left = right;
+    }
+}
+
+void PaintStatusBar(HControl& control, HCanvas& canvas, const TRect& room) {
+    const TRect bar{0, 2, room.Right, room.Bottom};
+    canvas.Fill(room, clBtnFace);
+    const HObject* panels = LookPart(control, "Panels");
+    if (LookInt(control, "SimplePanel") == 0 && panels) {
+        PaintSections(panels, "Text", canvas, bar, clWindowText, HEdge::Sunken);
+        return;
+    }
+    canvas.Edge(bar, HEdge::Sunken);
+    canvas.Text({4, 2, room.Right, room.Bottom}, LookName(control, "SimpleText"), clWindowText);
+}
+
+void PaintListView(HControl& control, HCanvas& canvas, const TRect& room) {
+    canvas.Fill(room, LookColor(control, clWindow));
+    if (LookName(control, "ViewStyle") == "vsReport" && LookInt(control, "ShowColumnHeaders", 1) != 0)
+        PaintSections(LookPart(control, "Columns"), "Caption", canvas, {0, 0, room.Right, Row + 2},
+                      LookInk(control), HEdge::Raised);
+}
+
+void PaintHeader(HControl& control, HCanvas& canvas, const TRect& room) {
+    PaintSections(LookPart(control, "Sections"), "Text", canvas, room, LookInk(control), HEdge::Raised);
+}
+
+void PaintDataGrid(HControl& control, HCanvas& canvas, const TRect& room) {
+    constexpr int indicator = 12;
+    canvas.Fill(room, LookColor(control, clWindow));
+    canvas.Fill({0, 0, indicator, 2 * Row}, clBtnFace);
+    PaintSections(LookPart(control, "Columns"), "FieldName", canvas, {indicator, 0, room.Right, Row + 2},
+                  LookInk(control), HEdge::Raised);
+}
+
+void PaintGrid(HControl& control, HCanvas& canvas, const TRect& room) {
+    // Whatever a form file says, products stay numbers.
+    const auto size = [&](const char* name, int usual) {
+        return std::clamp(LookInt(control, name, usual), 1, 4096) + 1;
+    };
+    const auto count = [&](const char* name, int usual) {
+        return std::clamp(LookInt(control, name, usual), 0, 1 << 16);
+    };
+    const int width = size("DefaultColWidth", 64), height = size("DefaultRowHeight", 24);
+    const TRect cells{0, 0, std::min(room.Right, count("ColCount", 5) * width),
+                      std::min(room.Bottom, count("RowCount", 5) * height)};
+    canvas.Fill(room, LookColor(control, clWindow));
+    canvas.Fill({0, 0, cells.Right, count("FixedRows", 1) * height}, clBtnFace);
+    canvas.Fill({0, 0, count("FixedCols", 1) * width, cells.Bottom}, clBtnFace);
+    for (int x = width; x <= cells.Right; x += width) canvas.Fill({x - 1, 0, x, cells.Bottom}, clBtnShadow);
+    for (int y = height; y <= cells.Bottom; y += height) canvas.Fill({0, y - 1, cells.Right, y}, clBtnShadow);
+}
+
+void PaintWhite(HControl& control, HCanvas& canvas, const TRect& room) {
+    canvas.Fill(room, LookColor(control, clWindow));
+}
+
+}  // namespace
+
+std::span<const HPainter> ListPainters() {
+    static constexpr HPainter rows[] = {
+        {"TCustomListBox", PaintListBox},
+        {"TCustomCombo", PaintComboBox},
+        {"TCustomStatusBar", PaintStatusBar},
+        {"TCustomListView", PaintListView},
+        {"TCustomHeaderControl", PaintHeader},
+        {"TCustomDBGrid", PaintDataGrid},
+        {"TCustomGrid", PaintGrid},
+        {"TCustomTreeView", PaintWhite},
+        {"TDBLookupComboBox", PaintComboBox},
+    };
+    return rows;
+}
+
+}  // namespace rux

@@ -23,4 +23,16 @@ std::string TFormAdapter::GetInfo() {
     return TVirtualWinControl(WindowHandle()).GetWindowReport();
 }
 
+void TVirtualWindowAdapter::Active() {
+    Platform().Windows.SetActiveWindow(VirtualCast<TVirtualWindow>(FControl).Handle());
+}
+
+void TVirtualWindowAdapter::Close() {
+    VirtualCast<TVirtualWindow>(FControl).Close();
+}
+
+std::string TVirtualWindowAdapter::GetInfo() {
+    return VirtualCast<TVirtualWindow>(FControl).GetWindowReport();
+}
+
 }  // namespace rux

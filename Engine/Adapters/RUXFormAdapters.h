@@ -1,4 +1,4 @@
-// Forms.
+// Forms, and windows that are no objects of the toolkit.
 #pragma once
 
 #include "Engine/Adapters/RUXTestAdapter.h"
@@ -11,6 +11,16 @@ class TFormAdapter final : public TAdapterOf<TRUXControlAdapter, "TFormAdapter",
     /// A child of an MDI frame is brought to the front; any other form becomes the active window.
     void Active() override;
     /// Posted, not awaited: the form's own close query runs later, in the message loop.
+    void Close() override;
+    std::string GetInfo() override;
+};
+
+class TVirtualWindowAdapter final
+    : public TAdapterOf<TBaseVirtualControlAdapter, "TVirtualWindowAdapter", "TVirtualWindow", IForm> {
+ public:
+    using TAdapterOf::TAdapterOf;
+    void Active() override;
+    /// Sent: what the window does about it has been done when this returns.
     void Close() override;
     std::string GetInfo() override;
 };

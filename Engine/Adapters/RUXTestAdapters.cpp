@@ -4,6 +4,7 @@
 #include "Engine/Adapters/RUXCheckAdapters.h"
 #include "Engine/Adapters/RUXEditAdapters.h"
 #include "Engine/Adapters/RUXFormAdapters.h"
+#include "Engine/Adapters/RUXVirtualAdapters.h"
 
 namespace rux {
 
@@ -11,7 +12,9 @@ void RegisterTestAdapters(TTypeRegistry& registry) {
     // The order decides between adapters that are equally near to a class.
     RegisterAdapters<TFormAdapter, TSolviEditAdapter, TSolviButtonAdapter, TSolviSpeedButtonAdapter,
                      TSolviLabelAdapter, TSolviStaticTextAdapter, TSolviCheckBoxAdapter,
-                     TSolviRadioButtonAdapter, TDateTimePickerAdapter>(registry);
+                     TSolviRadioButtonAdapter, TDateTimePickerAdapter, TVirtualButtonAdapter,
+                     TVirtualEditAdapter, TVirtualWindowAdapter, TVirtualStaticAdapter,
+                     TVirtualComboboxAdapter, TVirtualTreeViewAdapter>(registry);
 }
 
 }  // namespace rux

@@ -5,12 +5,6 @@
 namespace rux {
 
 std::size_t TObjectPool::Add(std::unique_ptr<TObject> object, const void* maker) {
-    const auto same = [&](const TEntry& entry) { return entry.Object.get() == object.get(); };
-    const auto found = std::find_if(FObjects.begin(), FObjects.end(), same);
-    if (found != FObjects.end()) {
-        static_cast<void>(object.release());  // it is here already
-        return static_cast<std::size_t>(found - FObjects.begin());
-    }
     FObjects.push_back({std::move(object), maker});
     return FObjects.size() - 1;
 }

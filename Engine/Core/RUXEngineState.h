@@ -17,7 +17,9 @@ namespace rux {
 class TCheckEnabledMethodGroup;
 class TIniClassGroup;
 class TRUXIntfDefineList;
+class TShowWindowHook;
 class TTypeRegistry;
+class TVirtualClassList;
 
 /// The way to the user-interface thread, as the lower units see the task centre.
 class ITaskCenter {
@@ -76,14 +78,17 @@ struct TEngineState {
     TTaskCenterHolder TaskCenter;
     TEngineThreads Threads;
 
-    /// The tool bar pop-up that is open, and the outermost one; nil for none. User-interface thread.
-    TObject* CurrentPopup = nullptr;
-    TObject* RootPopup = nullptr;
+    /// The tool bar pop-up that is open, and the outermost one; nil for none. Set on the user-interface
+    /// thread, and cleared by whoever shows a window of another make.
+    std::atomic<TObject*> CurrentPopup{nullptr};
+    std::atomic<TObject*> RootPopup{nullptr};
+    std::shared_ptr<TShowWindowHook> ShowWindowHook;
 
     std::unique_ptr<TTypeRegistry> Registry;
     std::unique_ptr<TIniClassGroup> ClassGroup;
     std::unique_ptr<TCheckEnabledMethodGroup> MethodGroup;
     std::unique_ptr<TRUXIntfDefineList> IntfDefines;
+    std::unique_ptr<TVirtualClassList> VirtualClasses;
 };
 
 /// The engine that stands. Asserts that there is one.

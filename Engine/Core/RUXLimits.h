@@ -25,5 +25,9 @@ inline constexpr std::uint32_t RequestWaitTimeout = 3600000;
 /// Steps of one locator, and position steps among them: each of those searches the application anew.
 inline constexpr std::size_t LocatorStepLimit = 1024;
 inline constexpr std::size_t LocatorPositionLimit = 32;
+/// Bytes of a native window's text that are read: a window may claim any length.
+inline constexpr std::size_t VirtualTextLimit = std::size_t{64} << 20;
+/// Nodes of a native tree that one path is looked for in: the tree may answer as if it had no end.
+inline constexpr std::size_t VirtualNodeLimit = std::size_t{1} << 20;
 
 }  // namespace rux

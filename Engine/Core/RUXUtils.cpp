@@ -14,12 +14,29 @@ std::string GetRawWindowText(HWnd window) {
     return Platform().Windows.GetWindowTextA(window);
 }
 
-TObject* FindVclControl(HWnd window) {
-    TWindowService& windows = Platform().Windows;
-    const std::uint32_t process = Platform().Kernel.GetCurrentProcessId();
-    if (window == 0 || windows.GetWindowProcessId(window) != process) return nullptr;
+namespace {
+
+/// The toolkit keeps its object in a property of each of its windows, under an atom named for the process.
+std::uintptr_t VclMark(TPlatform& platform, HWnd window) {
+    TWindowService& windows = platform.Windows;
+    const std::uint32_t process = platform.Kernel.GetCurrentProcessId();
+    if (window == 0 || windows.GetWindowProcessId(window) != process) return 0;
     const TAtom atom = windows.GlobalFindAtomA("Delphi" + IntToHex8(process));
-    return atom ? Platform().Toolkit.ObjectOfProp(windows.GetPropA(window, atom)) : nullptr;
+    return atom ? windows.GetPropA(window, atom) : 0;
+}
+
+}  // namespace
+
+bool HasVclMark(TPlatform& platform, HWnd window) {
+    return VclMark(platform, window) != 0;
+}
+
+TObject* FindVclControl(TPlatform& platform, HWnd window) {
+    return platform.Toolkit.ObjectOfProp(VclMark(platform, window));
+}
+
+TObject* FindVclControl(HWnd window) {
+    return FindVclControl(Platform(), window);
 }
 
 std::string GetWindowCaption(HWnd window) {

@@ -1,6 +1,7 @@
 #include "Engine/Locator/RUXFinderRegistration.h"
 
 #include "Engine/Locator/RUXFormFindAdapters.h"
+#include "Engine/Locator/RUXNotVCLFindAdapter.h"
 #include "Engine/Registry/RUXTypeRegistry.h"
 
 namespace rux {
@@ -27,6 +28,7 @@ void RegisterParserFinders(TTypeRegistry& registry) {
 
 void RegisterFinders(TTypeRegistry& registry) {
     Add<TFormFindAdapter>(registry, "TFormFindAdapter", "TCustomForm");
+    Add<TVirtualWinControlFinder>(registry, "TVirtualWinControlFinder", "TVirtualWinControl");
 }
 
 }  // namespace rux

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "Engine/Core/RUXEngineState.h"
+#include "Engine/Hooks/RUXRegisterClassHook.h"
 #include "Engine/Host/RUXHttpServer.h"
 #include "Engine/Start/RUXEngineService.h"
 
@@ -36,6 +37,8 @@ class TRUXApplication {
     const TRUXEngineService& Service() const { return FService; }
 
  private:
+    /// First to come and last to go: what the library brings may be registered already.
+    TRegisterClassHook FRegisterClassHook;
     TEngineState FState;
     TRUXEngineService FService;
     std::unique_ptr<TRUXHttpDaemon> FDaemon;

@@ -3,6 +3,7 @@
 #include "Engine/Registry/RUXGroupClassFile.h"
 #include "Engine/Registry/RUXIntfDefine.h"
 #include "Engine/Registry/RUXTypeRegistry.h"
+#include "Engine/Virtual/RUXVirtualControls.h"
 #include "platform/FileService.h"
 #include "rtl/Exceptions.h"
 
@@ -17,7 +18,8 @@ std::atomic<TEngineState*> Standing{nullptr};
 TEngineState::TEngineState(TPlatform& platform)
     : Platform(platform),
       Registry(std::make_unique<TTypeRegistry>()),
-      IntfDefines(std::make_unique<TRUXIntfDefineList>()) {
+      IntfDefines(std::make_unique<TRUXIntfDefineList>()),
+      VirtualClasses(std::make_unique<TVirtualClassList>()) {
     TEngineState* none = nullptr;
     Assert(Standing.compare_exchange_strong(none, this), "An engine stands already");
 }

@@ -4,6 +4,7 @@
 
 #include "Engine/Core/RUXLimits.h"
 #include "Engine/TaskCenter/RUXTaskMessages.h"
+#include "Engine/TaskCenter/RUXUnexpectedWindows.h"
 #include "platform/KernelService.h"
 #include "platform/WindowService.h"
 #include "platform/toolkit/Forms.h"
@@ -111,6 +112,15 @@ void TRUXTaskCenter::HandleTaskMessage(unsigned message, WParam wParam, LParam l
             return;
         case RUXM_FINISHSTEP:
             FinishStep(AdoptFromParam(wParam), static_cast<unsigned>(lParam));
+            return;
+        case RUXM_WINDOWSHOWN:
+            HandleWindowShown(AdoptFromParam(wParam), static_cast<HWnd>(lParam));
+            return;
+        case RUXM_CLOSEWINDOW:
+            CloseUnexpectedWindow(static_cast<HWnd>(wParam));
+            return;
+        case RUXM_SAVEWINDOWPIC:
+            SaveUnexpectedWindowPic(*AdoptFromParam(wParam), static_cast<HWnd>(lParam));
             return;
         default:
             Assert(false, Ansi("未处理的消息类型"));

@@ -282,6 +282,33 @@
     TabOrder = 6
     OnClick = btnImportClick
   end
+  object btnStock: TButton
+    Left = 416
+    Top = 232
+    Width = 97
+    Height = 25
+    Caption = '检查库存'
+    TabOrder = 9
+    OnClick = btnStockClick
+  end
+  object btnExport: TButton
+    Left = 528
+    Top = 232
+    Width = 97
+    Height = 25
+    Caption = '导出...'
+    TabOrder = 10
+    OnClick = btnExportClick
+  end
+  object btnLater: TButton
+    Left = 416
+    Top = 264
+    Width = 97
+    Height = 25
+    Caption = '延时打开'
+    TabOrder = 11
+    OnClick = btnLaterClick
+  end
   object txtState: TStaticText
     Left = 8
     Top = 304

@@ -1,5 +1,8 @@
 #include "host/sample/Orders.h"
 
+#include <memory>
+
+#include "host/sample/OrdersWindows.h"
 #include "platform/headless/toolkit/HButtons.h"
 #include "platform/headless/toolkit/HEdits.h"
 #include "platform/headless/toolkit/HForm.h"
@@ -55,6 +58,22 @@ void ChooseCustomer(HCustomForm& form) {
     SetState(form, "已选择客户");
 }
 
+void Export(HCustomForm& form) {
+    const std::string chosen = AskForExport(form.Kit());
+    SetState(form, "没有导出");
+    if (!chosen.empty()) Find<HControl>(form, "txtState").SetText(Ansi("已导出 ") + chosen);
+}
+
+/// As an application does that first asks its server: the form comes when the button's code is long over.
+void ChooseLater(HCustomForm& form) {
+    HDesktop& desktop = form.Kit().Desktop();
+    const auto timer = std::make_shared<unsigned>(0);
+    *timer = desktop.SetTimer(300, [&form, &desktop, timer] {
+        desktop.KillTimer(*timer);
+        ChooseCustomer(form);
+    });
+}
+
 void Save(HCustomForm& form, std::string_view what) {
     Log(form, what);
     SetState(form, what);
@@ -74,6 +93,9 @@ void AttachMain(HComponent& root) {
     Define(root, "btnApproveClick", [](HCustomForm& form) { Save(form, "订单已审核"); });
     Define(root, "btnLogClick", [](HCustomForm& form) { FormNamed(form.Kit(), "LogForm").Show(); });
     Define(root, "btnImportClick", [](HCustomForm&) { StrToInt("abc"); });
+    Define(root, "btnStockClick", [](HCustomForm& form) { ShowStock(form.Kit()); });
+    Define(root, "btnExportClick", Export);
+    Define(root, "btnLaterClick", ChooseLater);
     Define(root, "lblHelpClick", [](HCustomForm& form) { SetState(form, "帮助尚未编写"); });
     Define(root, "btnPinClick", [](HCustomForm& form) { SetState(form, "窗口已固定"); });
     Define(root, "edtCustomerChange", [](HCustomForm& form) { SetState(form, "客户已更改"); });

@@ -105,7 +105,7 @@ TEST_F(HostProgram, EndsOnSignals) {
     }
     // A request that waits for the window that it opened.
     TStartedHost host(Folder, {"--sample", "orders", "--journal", "/dev/stdout"});
-    TProgram call({"ruxcall", "--port", host.PortText, "选择客户?Button$Click"});
+    TProgram call({"ruxcall", "--port", host.PortText, "选择客户?Button$Click?IgnorePopupWindow"});
     EXPECT_EQ(host.WaitForLine("show TCustomerForm"), "show TCustomerForm 选择客户");
     host.Signal(SIGINT);
     EXPECT_TRUE(host.Outcome().ends_with("= 0"));

@@ -211,7 +211,7 @@ TEST(THttpLife, StartedAndStoppedManyTimes) {
         if (i % 3 == 0) continue;
         // The end comes while a request waits in a message box, and another one behind it.
         host->Define("Main", "Wait", [&](HComponent&) { host->Kit().App().MessageBox("text", "caption"); });
-        TPendingCall waiting(*host, "等待$Click");
+        TPendingCall waiting(*host, "等待$Click?IgnorePopupWindow");
         host->WaitFor("show #32770");
         host.reset();
         EXPECT_EQ(waiting.Answer(), "the server ended the connection");

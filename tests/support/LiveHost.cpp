@@ -16,7 +16,8 @@ namespace {
 
 /// Posted to the application's window: lParam points to a function to run.
 constexpr unsigned RunCode = 0x8001;
-
+/// Posted to the same window: tells whoever waits in Settle.
+constexpr unsigned Settled = 0x8002;
 std::filesystem::path NewFolder() {
     std::string name = (std::filesystem::temp_directory_path() / "rux-live-XXXXXX").string();
     return mkdtemp(name.data());
@@ -41,7 +42,7 @@ TLiveHost::~TLiveHost() {
     pthread_join(FThread, nullptr);
     std::filesystem::remove_all(FFolder);
     // The process keeps its port for good, so it must keep what tells others of that.
-    static std::vector<std::unique_ptr<TPosixPlatform>> holdMutexes;
+    static std::vector<std::unique_ptr<TLivePlatform>> holdMutexes;
     holdMutexes.push_back(std::move(FPosix));
 }
 
@@ -64,11 +65,10 @@ void TLiveHost::Live() {
     TKernelFacts facts;
     facts.ModuleName = NameFromSystem((FFolder / "app.exe").string());
     facts.LibraryName = NameFromSystem((FFolder / "rux.dll").string());
-    auto clock = std::make_unique<TManualClock>();
-    FClock = clock.get();
-    FPosix = std::make_unique<TPosixPlatform>(facts, TSocketOptions{"127.0.0.1"}, std::move(clock));
+    FPosix = std::make_unique<TLivePlatform>(facts);
+    Kernel().WatchThisThread();
     FDesktop =
-        std::make_unique<THeadlessPlatform>(FPosix->Kernel, *FPosix->Clock, FPosix->Sockets, FPosix->Files);
+        std::make_unique<THeadlessPlatform>(FPosix->Kernel, FPosix->Clock, FPosix->Sockets, FPosix->Files);
     Load();
     FAgent = std::make_unique<TRUXApplication>(FDesktop->Platform());
     FAgent->Start();
@@ -107,6 +107,13 @@ void TLiveHost::Load() {
 }
 
 LResult TLiveHost::WindowProc(HWnd window, unsigned message, WParam wParam, LParam lParam) {
+    if (message == Settled) {
+        const std::lock_guard lock(FLock);
+        FWaitsBefore = Kernel().CountOfWaits();
+        ++FSettled;
+        FChanged.notify_all();
+        return 0;
+    }
     if (message != RunCode) return Desktop().CallWindowProcA(FPreviousProc, window, message, wParam, lParam);
     (*reinterpret_cast<const std::function<void()>*>(lParam))();
     return 1;
@@ -123,6 +130,19 @@ void TLiveHost::Run(const std::function<void()>& code) {
     };
     Desktop().SendMessageA(FWindow, RunCode, 0, reinterpret_cast<LParam>(&guarded));
     if (failure) std::rethrow_exception(failure);
+}
+
+void TLiveHost::Settle() {
+    std::unique_lock lock(FLock);
+    const int before = FSettled;
+    lock.unlock();
+    Desktop().PostMessageA(FWindow, Settled, 0, 0);
+    lock.lock();
+    FChanged.wait(lock, [&] { return FSettled > before; });
+    const int waits = FWaitsBefore;
+    lock.unlock();
+    // Handled it is; whoever pumped it, the thread waits only when all that followed is handled too.
+    Kernel().WaitForWaitBeyond(waits);
 }
 
 HComponent& TLiveHost::Form(std::string_view name) {

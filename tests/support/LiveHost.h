@@ -19,8 +19,19 @@
 #include "platform/headless/toolkit/HForm.h"
 #include "platform/posix/ManualClock.h"
 #include "platform/posix/PosixPlatform.h"
+#include "support/GatedKernel.h"
 
 namespace rux::test {
+
+/// What a host stands on, and what its process keeps.
+struct TLivePlatform {
+    explicit TLivePlatform(TKernelFacts facts)
+        : Kernel(Clock, std::move(facts)), Sockets(Clock, {"127.0.0.1"}) {}
+    TManualClock Clock;
+    TGatedKernel Kernel;
+    TPosixSockets Sockets;
+    TPosixFiles Files;
+};
 
 class TLiveHost {
  public:
@@ -32,7 +43,8 @@ class TLiveHost {
     ~TLiveHost();
 
     std::uint16_t Port() const { return FPort; }
-    TManualClock& Clock() { return *FClock; }
+    TManualClock& Clock() { return FPosix->Clock; }
+    TGatedKernel& Kernel() { return FPosix->Kernel; }
     /// One request over a connection of its own: "212 成功", and the text behind a line feed if there is one.
     std::string Ask(std::string_view request);
     static std::string Show(const THttpReply& reply);
@@ -45,7 +57,11 @@ class TLiveHost {
     HToolkit& Kit() { return FDesktop->Toolkit(); }
     HDesktop& Desktop() { return FDesktop->Desktop(); }
     TEngineState& Engine() { return FAgent->State(); }
+    TRUXApplication& Agent() { return *FAgent; }
 
+    /// Waits until the user-interface thread has nothing left to do: all that was posted is handled, and all
+    /// that this posted.
+    void Settle();
     /// Waits until a line of the journal begins with `text` (UTF-8), and forgets everything up to it.
     void WaitFor(std::string_view text);
     /// All windows of the class #32770: their text children joined.
@@ -63,8 +79,7 @@ class TLiveHost {
 
     const std::vector<std::string_view> FForms;
     const std::filesystem::path FFolder;
-    TManualClock* FClock = nullptr;
-    std::unique_ptr<TPosixPlatform> FPosix;
+    std::unique_ptr<TLivePlatform> FPosix;
     std::unique_ptr<THeadlessPlatform> FDesktop;
     std::unique_ptr<TRUXApplication> FAgent;
     TWndProc FPreviousProc = 0;
@@ -74,6 +89,8 @@ class TLiveHost {
     std::mutex FLock;
     std::condition_variable FChanged;
     bool FReady = false;
+    int FSettled = 0;
+    int FWaitsBefore = 0;
     std::string FFailure;
     std::vector<std::string> FJournal;
     pthread_t FThread{};

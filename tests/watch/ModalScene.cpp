@@ -1,0 +1,409 @@
+#include "watch/ModalScene.h"
+
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <map>
+#include <optional>
+#include <thread>
+
+#include "platform/headless/native/HMessageBox.h"
+#include "rtl/Numbers.h"
+
+namespace rux::test {
+
+namespace {
+
+constexpr std::uint32_t Hour = 3600000;
+constexpr std::uint32_t Delay = 10;
+
+constexpr std::string_view MainForm = R"(object Main: TMain
+  Left = 10
+  Top = 10
+  Width = 300
+  Height = 200
+  Caption = 'Main'
+  object Go: TButton
+    Caption = 'Go'
+    OnClick = Go
+  end
+  object Open: TButton
+    Left = 100
+    Caption = 'Open'
+    OnClick = Open
+  end
+  object Pad: TEdit
+    Left = 200
+    Text = 'Pad'
+    OnDblClick = Go
+  end
+end
+)";
+constexpr std::string_view DialogForm = R"(object Dialog: TDialog
+  Left = 50
+  Top = 60
+  Width = 200
+  Height = 120
+  Caption = 'Box'
+  Visible = False
+  object Fine: TButton
+    Caption = 'Fine'
+  end
+end
+)";
+constexpr std::string_view BaseForm = R"(object Base: TBase
+  Left = 50
+  Top = 60
+  Width = 250
+  Height = 150
+  Caption = 'Base'
+  Visible = False
+  object Go: TButton
+    Caption = 'Go'
+    OnClick = Go
+  end
+end
+)";
+constexpr std::string_view FrameForm = R"(object Main: TMain
+  Width = 600
+  Height = 400
+  Caption = 'Main'
+  FormStyle = fsMDIForm
+  object Go: TButton
+    Caption = 'Go'
+    OnClick = Go
+  end
+end
+)";
+constexpr std::string_view ChildForm = R"(object Child: TChild
+  Left = 5
+  Top = 5
+  Width = 220
+  Height = 110
+  Caption = 'Box'
+  FormStyle = fsMDIChild
+  Visible = False
+  object Fine: TButton
+    Caption = 'Fine'
+  end
+end
+)";
+
+/// Lets the time of a timer pass. The loop may have reckoned its wait from before and begun it after: it is
+/// woken to look again.
+void Elapse(TLiveHost& host, std::uint32_t time) {
+    host.Clock().Advance(time);
+    host.Desktop().PostMessageA(host.Kit().App().Handle(), WM_NULL, 0, 0);
+}
+
+/// By bytes: these texts are in UTF-8.
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
+        text.replace(at, from.size(), to);
+    return text;
+}
+
+void Box(TLiveHost& host) {
+    host.Kit().App().MessageBox("text", "Box");
+}
+
+HCustomForm& FormNamed(TLiveHost& host, std::string_view name) {
+    return dynamic_cast<HCustomForm&>(host.Form(name));
+}
+
+/// The window of the title Box, whatever stands behind it.
+HWnd FindBox(TLiveHost& host) {
+    HDesktop& desktop = host.Desktop();
+    HWnd found = 0;
+    const auto look = [&](HWnd window) {
+        const bool box = desktop.GetWindowTextA(window) == "Box" && desktop.IsWindowVisible(window) &&
+                         desktop.GetClassNameA(window) != "TApplication";
+        if (box) found = window;
+        return !box;
+    };
+    desktop.EnumWindows([&](HWnd window) {
+        if (look(window)) desktop.EnumChildWindows(window, look);
+        return found == 0;
+    });
+    return found;
+}
+
+void After(TLiveHost& host, std::uint32_t delay, std::function<void()> code) {
+    HDesktop& desktop = host.Desktop();
+    const auto timer = std::make_shared<unsigned>(0);
+    *timer = desktop.SetTimer(delay, [&desktop, timer, code = std::move(code)] {
+        desktop.KillTimer(*timer);
+        code();
+    });
+}
+
+void DefineGo(TLiveHost& host, const std::function<void(TLiveHost&)>& code, std::string_view form = "Main") {
+    host.Define(form, "Go", [&host, code](HComponent&) { code(host); });
+}
+
+void PrepareBoxOnModal(TLiveHost& host) {
+    host.Define("Main", "Open", [&host](HComponent&) { FormNamed(host, "Base").ShowModal(); });
+    DefineGo(host, Box, "Base");
+    host.Ask("Open$Click?PopupWindow");
+}
+
+void EndBoxOnModal(TLiveHost& host) {
+    CloseBoxes(host);
+    host.Settle();
+    host.Run([&] { FormNamed(host, "Base").Close(); });
+}
+
+void FailWith(TLiveHost& host) {
+    host.Kit().App().SetTitle("Box");
+    StrToInt("abc");
+}
+
+/// Handlers that wait, with a loop of their own, for a box that another thread shows.
+std::atomic<int> HandlersWaiting{0};
+
+void BoxOnSecondThread(TLiveHost& host) {
+    ++HandlersWaiting;
+    bool ended = false;
+    std::thread second([&] {
+        RunMessageBox(host.Desktop(), "text", "Box", 0);
+        host.Run([&] {
+            ended = true;
+            host.Desktop().PostMessageA(host.Kit().App().Handle(), WM_NULL, 0, 0);  // the loop looks again
+        });
+    });
+    while (!ended && !host.Kit().App().Terminated()) host.Kit().App().HandleMessage();
+    second.join();
+    --HandlersWaiting;
+}
+
+void AwaitHandlers(TLiveHost& host) {
+    while (HandlersWaiting > 0) std::this_thread::yield();
+    host.Settle();
+}
+
+/// A box becomes the active window when its ShowWindow has returned.
+bool ActiveOrGone(TLiveHost& host) {
+    const HWnd box = FindBox(host);
+    return box == 0 || host.Desktop().GetActiveWindow() == box;
+}
+
+constexpr std::string_view BoxText = "Box\r\nother:确定\r\nother:text";
+constexpr std::string_view ErrorText = "Box\r\nother:确定\r\nother:'abc' is not a valid integer value.";
+constexpr std::string_view FormText = "Box\r\nTButton:Fine";
+
+/// The window's size, from whichever scene saw it last: where it is closed at once it can only be remembered.
+std::string& SizeOf(const TSituation& situation) {
+    static std::map<std::string_view, std::string> sizes;
+    return sizes[situation.Name];
+}
+
+class TScene {
+ public:
+    TScene(const TSituation& situation, std::string_view option)
+        : FSituation(situation),
+          FRequest(std::string(situation.Request) + std::string(option)),
+          FHost(situation.Forms) {
+        situation.Prepare(FHost);
+        FHost.Kernel().SetGate(false);
+        FAnswer = std::async(std::launch::async, [this] { return FHost.Ask(FRequest); });
+    }
+
+    std::string Play(char answerTime) {
+        FAnswerTime = answerTime;
+        // Its hour begins before any time has passed.
+        if (answerTime == 'H') FHost.Clock().WaitUntilWaiters(1, Hour);
+        if (FSituation.Delay != 0) {
+            FHost.WaitFor("event Main.Go");
+            EndPhase('R');
+            Elapse(FHost, FSituation.Delay);
+        }
+        FHost.WaitFor(FSituation.Shown);
+        for (bool shown = !FSituation.IsShown; !shown;) FHost.Run([&] { shown = FSituation.IsShown(FHost); });
+        FHost.Settle();
+        HWnd box = 0;
+        FHost.Run([&] {
+            box = FindBox(FHost);
+            TRect place;
+            if (FHost.Desktop().GetWindowRect(box, place))
+                SizeOf(FSituation) = std::to_string(place.Width()) + "x" + std::to_string(place.Height());
+        });
+        if (box == 0) AwaitHandlers(FHost);
+        EndPhase('W');
+        FSituation.End(FHost);
+        EndPhase('E');
+        if (answerTime == 'H') {
+            FHost.Clock().Advance(Hour);
+            EndPhase('H');
+        }
+        return FResult + " | " + (box ? "up" : "gone") + Picture() + " | " + FNext + " | " + Stack();
+    }
+
+ private:
+    /// The user-interface thread does what it has to do, then the workers, then whoever asks next.
+    void EndPhase(char phase) {
+        FHost.Settle();
+        FHost.Kernel().SetGate(true);
+        if (phase == FAnswerTime) {
+            if (FAnswer.wait_for(std::chrono::seconds(20)) != std::future_status::ready)
+                throw std::runtime_error("no answer to " + FRequest);
+            FResult = phase + (" " + Short(FAnswer.get()));
+            FNext = Short(FHost.Ask("nothing$Find"));
+        } else if (!FResult.empty()) {
+            if (const std::string next = Short(FHost.Ask("nothing$Find")); next != "ok") FNext += ", " + next;
+        } else if (FAnswer.wait_for(std::chrono::seconds(0)) == std::future_status::ready) {
+            FResult = "too early";
+        }
+        FHost.Kernel().SetGate(false);
+    }
+
+    std::string Url() const { return FRequest; }
+    std::string PictureName() const {
+        std::string name = "Box_" + FRequest + ".jpg";
+        for (char& c : name)
+            if (std::string_view("?/\\:*\"<>|").find(c) != std::string_view::npos) c = '_';
+        return name;
+    }
+    /// The texts of this scene by short names.
+    std::string Short(std::string text) const {
+        const std::string described =
+            std::string(FSituation.Description) + "\r\nPicFileName:/UnExpectWindowPic/" + PictureName();
+        text = Replaced(text, "\r\n\r\n[" + Url() + "]执行异常\r\n" + described, "+carried");
+        text = Replaced(text, described, "window");
+        text = Replaced(text, "\n", " ");
+        return text == "211 成功返回 False" ? "ok" : text;
+    }
+    std::string Picture() const {
+        const auto folder = FHost.Folder() / ("RUX_" + std::to_string(FHost.Port())) / "UnExpectWindowPic";
+        std::string all;
+        for (const auto& entry : std::filesystem::directory_iterator(folder))
+            all += ", " + (entry.path().filename() == PictureName() ? DescribeJpeg(entry.path().string())
+                                                                    : entry.path().filename().string());
+        return Replaced(all, SizeOf(FSituation) + " many", "picture");
+    }
+    std::string Stack() {
+        const std::string log = FHost.Log(), sign = " Pop:" + Url() + "\r\n";
+        const std::size_t end = log.find(sign);
+        std::string result = "stays";
+        if (end != log.npos) {
+            const std::size_t begin = log.rfind("StactCount:", end);
+            result = log.substr(begin, end - begin);
+            if (log.find(sign, end + 1) != log.npos) result += " twice";
+        }
+        const std::size_t left = FHost.Engine().RequestStack.Count();
+        return result + (left ? ", left " + std::to_string(left) : "");
+    }
+
+    const TSituation& FSituation;
+    const std::string FRequest;
+    TLiveHost FHost;
+    std::future<std::string> FAnswer;
+    char FAnswerTime = 'W';
+    std::string FResult, FNext;
+};
+
+}  // namespace
+
+void CloseBoxes(TLiveHost& host) {
+    host.Run([&] {
+        host.Desktop().EnumWindows([&](HWnd window) {
+            if (host.Desktop().GetClassNameA(window) == "#32770")
+                host.Desktop().PostMessageA(window, WM_CLOSE, 0, 0);
+            return true;
+        });
+    });
+}
+
+const std::vector<TSituation>& Situations() {
+    static const std::vector<TSituation> all{
+        {"message box",
+         "Go$Click",
+         {MainForm},
+         [](TLiveHost& h) { DefineGo(h, Box); },
+         "show #32770 Box",
+         CloseBoxes,
+         0,
+         BoxText},
+        {"modal form",
+         "Go$Click",
+         {MainForm, DialogForm},
+         [](TLiveHost& h) { DefineGo(h, [](TLiveHost& host) { FormNamed(host, "Dialog").ShowModal(); }); },
+         "show TDialog Box",
+         [](TLiveHost& h) { h.Run([&] { FormNamed(h, "Dialog").Close(); }); },
+         0,
+         FormText},
+        {"box on a modal form",
+         "Go$Click",
+         {MainForm, BaseForm},
+         PrepareBoxOnModal,
+         "show #32770 Box",
+         EndBoxOnModal,
+         0,
+         BoxText},
+        {"box after the call",
+         "Go$Click",
+         {MainForm},
+         [](TLiveHost& h) {
+             DefineGo(h, [](TLiveHost& host) { After(host, Delay, [&host] { Box(host); }); });
+         },
+         "show #32770 Box",
+         CloseBoxes,
+         Delay,
+         BoxText},
+        {"exception in the send",
+         "Pad$DbClick",
+         {MainForm},
+         [](TLiveHost& h) { DefineGo(h, FailWith); },
+         "show #32770 Box",
+         CloseBoxes,
+         0,
+         ErrorText},
+        {"exception that leaves the call",
+         "Go$Click",
+         {MainForm},
+         [](TLiveHost& h) { DefineGo(h, FailWith); },
+         "show #32770 Box",
+         CloseBoxes,
+         0,
+         ErrorText},
+        {"box closed by the application",
+         "Go$Click",
+         {MainForm},
+         [](TLiveHost& h) {
+             DefineGo(h, [](TLiveHost& host) {
+                 After(host, Delay, [&host] { CloseBoxes(host); });
+                 Box(host);
+             });
+         },
+         "show #32770 Box",
+         [](TLiveHost& h) { Elapse(h, Delay); },
+         0,
+         BoxText},
+        {"MDI child",
+         "Go$Click",
+         {FrameForm, ChildForm},
+         [](TLiveHost& h) { DefineGo(h, [](TLiveHost& host) { FormNamed(host, "Child").Show(); }); },
+         "event Main.Go",
+         [](TLiveHost&) {},
+         0,
+         FormText},
+        {"box on a second thread",
+         "Go$Click",
+         {MainForm},
+         [](TLiveHost& h) { DefineGo(h, BoxOnSecondThread); },
+         "show #32770 Box",
+         [](TLiveHost& h) {
+             CloseBoxes(h);
+             AwaitHandlers(h);
+         },
+         0,
+         BoxText,
+         ActiveOrGone},
+    };
+    return all;
+}
+
+std::string PlayScene(const TSituation& situation, std::string_view option, char answerTime) {
+    return TScene(situation, option).Play(answerTime);
+}
+
+}  // namespace rux::test

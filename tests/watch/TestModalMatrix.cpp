@@ -1,0 +1,125 @@
+// Nine ways of windows to come up against nine ways of asking. Time passes only when a scene says so, and
+// where two threads could both be first it is the user-interface thread.
+#include <gtest/gtest.h>
+
+#include "watch/ModalScene.h"
+
+namespace rux::test {
+
+namespace {
+
+constexpr const char* Options[] = {
+    "",
+    "?PopupWindow",
+    "?PopupWindow=bOX",
+    "?PopupWindow=o.*",
+    "?PopupWindow=Save",
+    "?CloseUnExpactPopupWindow",
+    "?WaitForWindow=^B.x$",
+    "?WaitForWindow=^Save$",
+    "?IgnorePopupWindow",
+};
+
+struct TRow {
+    const char* Situation;
+    const char* Cells[std::size(Options)];
+};
+
+// When, answer | window, picture of its size and its colours | next request | stack when popped, what is left
+const TRow Matrix[] = {
+    {"message box",
+     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
+      "E 212 成功 | up | ok | StactCount:0"}},
+    {"modal form",
+     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
+      "E 212 成功 | up | ok | StactCount:0"}},
+    // The call that opened the form is below on the stack.
+    {"box on a modal form",
+     {"W 519 非预期窗体 window | up, picture | ok | StactCount:1",
+      "W 213 窗体弹出 Box | up | ok | StactCount:1", "W 213 窗体弹出 Box | up | ok | StactCount:1",
+      "W 213 窗体弹出 Box | up | ok | StactCount:1",
+      "W 519 非预期窗体 window | up, picture | ok | StactCount:1",
+      "W 519 非预期窗体 window | gone, picture | ok | StactCount:1",
+      "W 213 窗体弹出 Box | up | ok | StactCount:1", "H 212 成功 | up | ok | stays, left 1",
+      "E 212 成功 | up | ok | StactCount:1"}},
+    // Without an option that keeps it on the stack the call is over, and nobody is to blame.
+    {"box after the call",
+     {"R 212 成功 | up | ok | StactCount:0", "R 212 成功 | up | ok | StactCount:0",
+      "R 212 成功 | up | ok | StactCount:0", "R 212 成功 | up | ok | StactCount:0",
+      "R 212 成功 | up, picture | ok, 520 前节点执行异常 +carried | StactCount:0",
+      "R 212 成功 | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "H 212 成功 | up | ok | stays, left 1", "R 212 成功 | up | ok | StactCount:0"}},
+    {"exception in the send",
+     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
+      "E 212 成功 | up | ok | StactCount:0"}},
+    // It is the failed call's own text that it carries. The failure takes WaitForWindow back; a window that
+    // PopupWindow expects leaves the call on the stack for good, since its end never comes.
+    {"exception that leaves the call",
+     {"W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | stays, left 1", "W 213 窗体弹出 Box | up | ok | stays, left 1",
+      "W 213 窗体弹出 Box | up | ok | stays, left 1",
+      "W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
+      "W 519 非预期窗体 window+carried | gone, picture | ok | StactCount:0",
+      "W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
+      "W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
+      "H 517 其他错误 'abc' is not a valid integer value | up | ok | stays, left 1"}},
+    {"box closed by the application",
+     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
+      "E 212 成功 | up | ok | StactCount:0"}},
+    // The call is over before its window is looked at, and is ended by the pump of the report: then the
+    // report finds nobody waiting, though the answer has not left yet. An MDI child closes by minimising.
+    {"MDI child",
+     {"W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
+      "W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
+      "W 212 成功 | up | ok | StactCount:0"}},
+    {"box on a second thread",
+     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0",
+      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
+      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
+      "E 212 成功 | up | ok | StactCount:0"}},
+};
+
+class TModalMatrix : public testing::TestWithParam<int> {};
+
+}  // namespace
+
+TEST_P(TModalMatrix, Row) {
+    const TRow& row = Matrix[GetParam()];
+    const TSituation& situation = Situations().at(static_cast<std::size_t>(GetParam()));
+    ASSERT_EQ(situation.Name, row.Situation);
+    for (std::size_t i = 0; i < std::size(Options); ++i) {
+        SCOPED_TRACE(std::string(row.Situation) + " " + Options[i]);
+        EXPECT_EQ(PlayScene(situation, Options[i], row.Cells[i][0]), row.Cells[i]);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, TModalMatrix, testing::Range(0, static_cast<int>(std::size(Matrix))));
+
+}  // namespace rux::test

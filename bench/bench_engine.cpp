@@ -9,6 +9,7 @@
 #include "Engine/Request/RUXRequestText.h"
 #include "Engine/Request/RUXTestFramework.h"
 #include "Engine/TaskCenter/RUXAutoTask.h"
+#include "Engine/TaskCenter/RUXShowWindowHook.h"
 #include "bench/BenchEngine.h"
 #include "platform/SocketService.h"
 #include "platform/toolkit/Controls.h"
@@ -121,6 +122,24 @@ void BM_StepMemoryUsage(benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(GetMemoryUsage());
 }
 BENCHMARK(BM_StepMemoryUsage);
+
+/// Showing and hiding a window; argument 1: while windows are watched, with no request to report them to.
+void BM_StepShowWindow(benchmark::State& state) {
+    TBenchEngine engine;
+    if (state.range(0) == 1) InstallShowWindowHook();
+    HDesktop& desktop = engine.Desktop.Desktop();
+    HCreateParams params;
+    params.ClassName = "Notice";
+    params.Style = WS_POPUP;
+    const HWnd window = desktop.CreateWindowA(params);
+    for (auto _ : state) {
+        desktop.ShowWindow(window, SW_SHOWNOACTIVATE);
+        desktop.ShowWindow(window, SW_SHOW);
+        desktop.ShowWindow(window, SW_HIDE);
+    }
+    RemoveShowWindowHook();
+}
+BENCHMARK(BM_StepShowWindow)->Arg(0)->Arg(1);
 
 /// An event to another thread and one back: what a hand-over costs at least.
 void BM_StepHandOver(benchmark::State& state) {

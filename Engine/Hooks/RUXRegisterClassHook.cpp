@@ -3,6 +3,7 @@
 #include <mutex>
 
 #include "Engine/Hooks/SolviHookUtils.h"
+#include "rtl/Exceptions.h"
 
 namespace rux {
 
@@ -43,7 +44,11 @@ TRegisterClassHook::TRegisterClassHook(TCodeService& code) : FPatch(new TPatch{c
                                          });
     if (FReplacement != 0) {
         const std::lock_guard lock(FPatch->Lock);
-        HookCode(code, FPatch->Target, FReplacement, FPatch->Trampoline);
+        try {
+            HookCode(code, FPatch->Target, FReplacement, FPatch->Trampoline);
+        } catch (const EAccessViolation&) {
+            // No memory for the trampoline: registration stays as strict as it was, and the engine lives.
+        }
     }
     FInstalled = true;
 }

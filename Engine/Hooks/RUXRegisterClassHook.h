@@ -13,8 +13,7 @@ namespace rux {
 /// thread.
 class TRegisterClassHook {
  public:
-    /// Nothing is patched where the export cannot be found. EAccessViolation when there is no memory to
-    /// patch.
+    /// Nothing is patched where the export cannot be found, or where there is no memory for it.
     explicit TRegisterClassHook(TCodeService& code);
     ~TRegisterClassHook();
     TRegisterClassHook(const TRegisterClassHook&) = delete;

@@ -17,77 +17,23 @@ namespace {
 constexpr std::uint32_t Hour = 3600000;
 constexpr std::uint32_t Delay = 10;
 
-constexpr std::string_view MainForm = R"(object Main: TMain
-  Left = 10
-  Top = 10
-  Width = 300
-  Height = 200
-  Caption = 'Main'
-  object Go: TButton
-    Caption = 'Go'
-    OnClick = Go
-  end
-  object Open: TButton
-    Left = 100
-    Caption = 'Open'
-    OnClick = Open
-  end
-  object Pad: TEdit
-    Left = 200
-    Text = 'Pad'
-    OnDblClick = Go
-  end
-end
-)";
-constexpr std::string_view DialogForm = R"(object Dialog: TDialog
-  Left = 50
-  Top = 60
-  Width = 200
-  Height = 120
-  Caption = 'Box'
-  Visible = False
-  object Fine: TButton
-    Caption = 'Fine'
-  end
-end
-)";
-constexpr std::string_view BaseForm = R"(object Base: TBase
-  Left = 50
-  Top = 60
-  Width = 250
-  Height = 150
-  Caption = 'Base'
-  Visible = False
-  object Go: TButton
-    Caption = 'Go'
-    OnClick = Go
-  end
-end
-)";
-constexpr std::string_view FrameForm = R"(object Main: TMain
-  Width = 600
-  Height = 400
-  Caption = 'Main'
-  FormStyle = fsMDIForm
-  object Go: TButton
-    Caption = 'Go'
-    OnClick = Go
-  end
-end
-)";
-constexpr std::string_view ChildForm = R"(object Child: TChild
-  Left = 5
-  Top = 5
-  Width = 220
-  Height = 110
-  Caption = 'Box'
-  FormStyle = fsMDIChild
-  Visible = False
-  object Fine: TButton
-    Caption = 'Fine'
-  end
-end
-)";
+std::string Form(std::string_view name, std::string_view caption, std::string_view rest) {
+    return "object " + std::string(name) + ": T" + std::string(name) +
+           "\nLeft = 5\nTop = 5\nWidth = 220\nHeight = 140\nCaption = '" + std::string(caption) + "'\n" +
+           std::string(rest) + "end\n";
+}
+
+constexpr const char* Go = "object Go: TButton\nCaption = 'Go'\nOnClick = Go\nend\n";
+constexpr const char* Fine = "Visible = False\nobject Fine: TButton\nCaption = 'Fine'\nend\n";
+const std::string MainForm =
+    Form("Main", "Main",
+         std::string(Go) +
+             "object Open: TButton\nLeft = 80\nWidth = 50\nCaption = 'Open'\nOnClick = Open\nend\n"
+             "object Pad: TEdit\nLeft = 140\nWidth = 50\nText = 'Pad'\nOnDblClick = Go\nend\n");
+const std::string DialogForm = Form("Dialog", "Box", Fine);
+const std::string BaseForm = Form("Base", "Base", std::string("Visible = False\n") + Go);
+const std::string FrameForm = Form("Main", "Main", std::string("FormStyle = fsMDIForm\n") + Go);
+const std::string ChildForm = Form("Child", "Box", std::string("FormStyle = fsMDIChild\n") + Fine);
 
 /// Lets the time of a timer pass. The loop may have reckoned its wait from before and begun it after: it is
 /// woken to look again.

@@ -2,6 +2,8 @@
 // where two threads could both be first it is the user-interface thread.
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "watch/ModalScene.h"
 
 namespace rux::test {
@@ -20,29 +22,28 @@ constexpr const char* Options[] = {
     "?IgnorePopupWindow",
 };
 
+using TCells = std::array<std::string_view, std::size(Options)>;
+
 struct TRow {
-    const char* Situation;
-    const char* Cells[std::size(Options)];
+    std::string_view Situation;
+    TCells Cells;
 };
 
+/// A modal window during the call.
+constexpr TCells Modal = {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+                          "W 213 窗体弹出 Box | up | ok | StactCount:0",
+                          "W 213 窗体弹出 Box | up | ok | StactCount:0",
+                          "W 213 窗体弹出 Box | up | ok | StactCount:0",
+                          "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
+                          "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
+                          "W 213 窗体弹出 Box | up | ok | StactCount:0",
+                          "H 212 成功 | up | ok | stays, left 1",
+                          "E 212 成功 | up | ok | StactCount:0"};
+
 // When, answer | window, picture of its size and its colours | next request | stack when popped, what is left
-const TRow Matrix[] = {
-    {"message box",
-     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
-      "E 212 成功 | up | ok | StactCount:0"}},
-    {"modal form",
-     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
-      "E 212 成功 | up | ok | StactCount:0"}},
+constexpr TRow Matrix[] = {
+    {"message box", Modal},
+    {"modal form", Modal},
     // The call that opened the form is below on the stack.
     {"box on a modal form",
      {"W 519 非预期窗体 window | up, picture | ok | StactCount:1",
@@ -59,14 +60,7 @@ const TRow Matrix[] = {
       "R 212 成功 | up, picture | ok, 520 前节点执行异常 +carried | StactCount:0",
       "R 212 成功 | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
       "H 212 成功 | up | ok | stays, left 1", "R 212 成功 | up | ok | StactCount:0"}},
-    {"exception in the send",
-     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
-      "E 212 成功 | up | ok | StactCount:0"}},
+    {"exception in the send", Modal},
     // It is the failed call's own text that it carries. The failure takes WaitForWindow back; a window that
     // PopupWindow expects leaves the call on the stack for good, since its end never comes.
     {"exception that leaves the call",
@@ -78,14 +72,7 @@ const TRow Matrix[] = {
       "W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
       "W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
       "H 517 其他错误 'abc' is not a valid integer value | up | ok | stays, left 1"}},
-    {"box closed by the application",
-     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
-      "E 212 成功 | up | ok | StactCount:0"}},
+    {"box closed by the application", Modal},
     // The call is over before its window is looked at, and is ended by the pump of the report: then the
     // report finds nobody waiting, though the answer has not left yet. An MDI child closes by minimising.
     {"MDI child",
@@ -96,14 +83,7 @@ const TRow Matrix[] = {
       "W 519 非预期窗体 window+carried | up, picture | ok | StactCount:0",
       "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
       "W 212 成功 | up | ok | StactCount:0"}},
-    {"box on a second thread",
-     {"W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0",
-      "W 519 非预期窗体 window | up, picture | ok | StactCount:0",
-      "W 519 非预期窗体 window | gone, picture | ok | StactCount:0",
-      "W 213 窗体弹出 Box | up | ok | StactCount:0", "H 212 成功 | up | ok | stays, left 1",
-      "E 212 成功 | up | ok | StactCount:0"}},
+    {"box on a second thread", Modal},
 };
 
 class TModalMatrix : public testing::TestWithParam<int> {};

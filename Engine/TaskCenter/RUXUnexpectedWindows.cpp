@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "Engine/Core/RUXEngineState.h"
+#include "Engine/Core/RUXLimits.h"
 #include "Engine/Core/RUXServerUtils.h"
 #include "Engine/Core/RUXUtils.h"
 #include "Engine/TaskCenter/RUXTaskMessages.h"
@@ -14,6 +15,7 @@
 #include "rtl/CodePage.h"
 #include "rtl/Numbers.h"
 #include "rtl/RegExpr.h"
+#include "rtl/Stack.h"
 #include "rtl/Text.h"
 
 namespace rux {
@@ -65,7 +67,9 @@ void ReportUnexpected(const TIntf<ITestRequest>& request, HWnd window, const std
     engine.Logger.Info(request->GetURL() + " Unwin:" + caption +
                        " Expand:" + request->GetPopupWindowCaption());
     request->SetReturnCode(rcUnexpectedWindow);
-    Cast<TApplication>(&engine.Platform.Toolkit.Application()).ProcessMessages();
+    // The reports of windows that came up together nest here.
+    if (StackRoom() > RequestStackReserve)
+        Cast<TApplication>(&engine.Platform.Toolkit.Application()).ProcessMessages();
     // The picture is taken before the window is closed, since posted messages keep their order.
     PostRequestTask(RUXM_SAVEWINDOWPIC, request, static_cast<LParam>(window));
     if (request->GetCloseUnExpactPopupWindow()) engine.TaskCenter.PostTask(RUXM_CLOSEWINDOW, window, 0);

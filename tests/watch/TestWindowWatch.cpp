@@ -248,6 +248,23 @@ TEST_F(TWindowWatch, RequestsGoOnUnderABoxThatNobodyCloses) {
     EXPECT_EQ(Host.Engine().RequestStack.Count(), 0u);
 }
 
+TEST(TManyWindows, AtOnceDoNotExhaustTheStack) {
+    TLiveHost host({MainForm}, 1u << 20);
+    host.Define("Main", "Go", [&](HComponent&) {
+        for (int i = 0; i < 1500; ++i) {
+            HCreateParams params;
+            params.Text = "W";
+            params.Rect = {0, 0, 8, 8};
+            host.Desktop().ShowWindow(host.Desktop().CreateWindowA(params), SW_SHOW);
+        }
+    });
+    EXPECT_EQ(host.Ask("Go$Click").substr(0, 3), "519");
+    host.Settle();
+    host.Ask("nothing$Find");
+    EXPECT_EQ(host.Ask("Go$Find"), "211 成功返回\nTrue");
+    EXPECT_EQ(host.Engine().RequestStack.Count(), 0u);
+}
+
 TEST(TShowWindowPatch, LeavesTheFunctionAsItWas) {
     TLiveHost host({MainForm});
     std::array<unsigned char, 16> patched{}, after{};

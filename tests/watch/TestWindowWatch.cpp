@@ -249,7 +249,7 @@ TEST_F(TWindowWatch, RequestsGoOnUnderABoxThatNobodyCloses) {
 }
 
 TEST(TManyWindows, AtOnceDoNotExhaustTheStack) {
-    TLiveHost host({MainForm}, 1u << 20);
+    TLiveHost host({MainForm});
     host.Define("Main", "Go", [&](HComponent&) {
         for (int i = 0; i < 1500; ++i) {
             HCreateParams params;

@@ -1,57 +1,42 @@
 // Class registration, with the hook and without it.
-#include <gtest/gtest.h>
-
 #include "Engine/Hooks/RUXRegisterClassHook.h"
-#include "platform/headless/HeadlessPlatform.h"
-#include "platform/posix/ManualClock.h"
-#include "platform/posix/PosixPlatform.h"
+#include "Engine/Hooks/SolviHookUtils.h"
+#include "tests/support/EngineFixture.h"
 
 namespace rux::test {
 
 namespace {
 
-class TRegistration : public testing::Test {
+class TRegistration : public TEngineTest {
  protected:
-    /// A class of that name, another one for each `number`.
-    const TClass& Class(const char* name, int number) {
-        HClasses& classes = Platform.Toolkit().ClassDefs();
-        return classes.Define(name, &classes.Define("TBase" + std::to_string(number), nullptr));
-    }
-    /// "what was raised, class registered by then".
-    std::string Register(const char* name, int number) {
+    /// "what was raised, class registered by then"; another class of that name for each `number`.
+    std::string Register(const std::string& name, int number) {
+        HClasses& classes = Kit().ClassDefs();
         std::string raised = "-";
         try {
-            Platform.Toolkit().RegisterClass(Class(name, number));
+            Kit().RegisterClass(
+                classes.Define(name, &classes.Define("TBase" + std::to_string(number), nullptr)));
         } catch (const Exception& error) {
             raised = std::string(error.ClassName()) + ": " + error.Message();
         }
-        const TClass* found = Platform.Toolkit().RegisteredClasses().GetClass(name);
+        const TClass* found = Kit().RegisteredClasses().GetClass(name);
         return raised + ", " + (found ? found->Name() + " of " + found->Parent()->Name() : "none");
     }
     /// Where the next function would be: a function that is kept would move it.
     TCodeAddress NextFunction() {
-        const TCodeAddress next = Platform.CodeSpace().MakeFunction(TCallKind::StdCall, 0, nullptr);
-        Platform.CodeSpace().FreeFunction(next);
+        const TCodeAddress next = Code.MakeFunction(TCallKind::StdCall, 0, nullptr);
+        Code.FreeFunction(next);
         return next;
     }
     std::string CodeOfExport() {
-        HCodeSpace& code = Platform.CodeSpace();
-        const TCodeAddress stub =
-            code.GetProcAddress("RTL100.BPL", "@Classes@RegisterClass$qqrp17System@TMetaClass");
-        std::uint32_t memory = 0;
-        TCodeAddress function = 0;
-        code.ReadMemory(stub + 2, &memory, 4);
-        code.ReadMemory(memory, &function, 4);
         std::string bytes(16, '\0');
-        code.ReadMemory(function, bytes.data(), bytes.size());
+        Code.ReadMemory(ResolveCodeAddress(Code, Export), bytes.data(), bytes.size());
         return bytes;
     }
 
-    TManualClock Clock;
-    TPosixKernel Kernel{Clock, {}};
-    TPosixSockets Sockets{Clock, {}};
-    TPosixFiles FileSystem;
-    THeadlessPlatform Platform{Kernel, Clock, Sockets, FileSystem};
+    HCodeSpace& Code = Desktop.CodeSpace();
+    const TCodeAddress Export =
+        Code.GetProcAddress("RTL100.BPL", "@Classes@RegisterClass$qqrp17System@TMetaClass");
 };
 
 }  // namespace
@@ -60,33 +45,27 @@ TEST_F(TRegistration, TolerantWhileTheHookLives) {
     const std::string clash = "EFilerError: A class named TGRID already exists, TGrid of TBase1";
     const std::string code = CodeOfExport();
     const TCodeAddress next = NextFunction();
-    EXPECT_EQ(Register("TGrid", 1), "-, TGrid of TBase1");
-    EXPECT_EQ(Register("TGrid", 1), "-, TGrid of TBase1");
+    for (int i = 0; i < 2; ++i) EXPECT_EQ(Register("TGrid", 1), "-, TGrid of TBase1");
     EXPECT_EQ(Register("TGRID", 2), clash);
-    for (int round = 0; round < 2; ++round) {
-        TRegisterClassHook hook(Platform.CodeSpace());
+    for (const std::string fresh : {"TA", "TB"}) {
+        TRegisterClassHook hook(Code);
         EXPECT_TRUE(hook.Installed());
         EXPECT_NE(CodeOfExport(), code);
         EXPECT_EQ(Register("TGRID", 2), "-, TGrid of TBase1");
-        const char* const fresh = round ? "TB" : "TA";
-        EXPECT_EQ(Register(fresh, 3), "-, " + std::string(fresh) + " of TBase3");
+        EXPECT_EQ(Register(fresh, 3), "-, " + fresh + " of TBase3");
         const std::uintptr_t nil[] = {0};
-        const TCodeAddress entry = Platform.CodeSpace().GetProcAddress(
-            "rtl100.bpl", "@Classes@RegisterClass$qqrp17System@TMetaClass");
-        EXPECT_NO_THROW(Platform.CodeSpace().Call(TCallKind::Register, entry, nil));
-        if (round == 0) hook.Remove();
-        EXPECT_EQ(hook.Installed(), round != 0);
+        EXPECT_NO_THROW(Code.Call(TCallKind::Register, Export, nil));
+        if (fresh == "TA") hook.Remove();
+        EXPECT_EQ(hook.Installed(), fresh != "TA");
     }
     EXPECT_EQ(CodeOfExport(), code);
     EXPECT_EQ(NextFunction(), next);
     EXPECT_EQ(Register("TGRID", 2), clash);
-}
 
-TEST_F(TRegistration, NothingIsPatchedWithoutTheExport) {
+    // Without the export nothing is patched: the first page is still free for another function.
     HCodeSpace empty;
     const TRegisterClassHook hook(empty);
     EXPECT_TRUE(hook.Installed());
-    // The first page is still free for another function.
     EXPECT_EQ(empty.MakeFunction(TCallKind::StdCall, 0, nullptr), 0x10000000u);
 }
 

@@ -8,6 +8,8 @@
 
 namespace rux {
 
+class TPatchedExport;
+
 /// While one of these lives, no call of RegisterClass in the process raises; the class registered first
 /// stays. Made before anything registers a class. User-interface thread; registrations may come on any
 /// thread.
@@ -25,10 +27,8 @@ class TRegisterClassHook {
 
  private:
     /// Shared with calls that are inside while the hook is removed.
-    struct TPatch;
-    std::shared_ptr<TPatch> FPatch;
-    TCodeAddress FReplacement = 0;
-    bool FInstalled = false;
+    const std::shared_ptr<TPatchedExport> FPatch;
+    bool FInstalled;
 };
 
 }  // namespace rux

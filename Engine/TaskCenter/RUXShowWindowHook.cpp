@@ -4,12 +4,10 @@
 
 #include "Engine/Core/RUXEngineState.h"
 #include "Engine/Core/RUXUtils.h"
-#include "Engine/Hooks/SolviHookUtils.h"
 #include "Engine/TaskCenter/RUXTaskMessages.h"
 #include "platform/KernelService.h"
 #include "platform/WindowService.h"
 #include "platform/toolkit/Forms.h"
-#include "rtl/Exceptions.h"
 
 namespace rux {
 
@@ -31,49 +29,31 @@ bool BringsUp(int command) {
 }  // namespace
 
 TShowWindowHook::TShowWindowHook(TPlatform& platform)
-    : FPlatform(platform), FThread(platform.Kernel.GetCurrentThreadId()) {}
+    : FPlatform(platform),
+      FThread(platform.Kernel.GetCurrentThreadId()),
+      FShowWindow(platform.Code, TCallKind::StdCall) {}
 
 bool TShowWindowHook::Install() {
-    TCodeService& code = FPlatform.Code;
-    // The export may be a jump to its body in another module; patched there, every caller is met.
-    FTarget = ResolveCodeAddress(code, code.GetProcAddress("user32.dll", "ShowWindow"));
-    if (FTarget == 0) return false;
-    FReplacement = code.MakeFunction(
-        TCallKind::StdCall, 2, [self = shared_from_this()](std::span<const std::uintptr_t> arguments) {
-            return self->ShowWindowHook(arguments[0], static_cast<int>(arguments[1]));
-        });
     const std::lock_guard lock(FLock);
-    try {
-        FActive = HookCode(code, FTarget, FReplacement, FTrampoline);
-    } catch (const EAccessViolation&) {  // no memory for the trampoline
-    }
+    FActive = FShowWindow.Install("user32.dll", "ShowWindow", 2,
+                                  [self = shared_from_this()](std::span<const std::uintptr_t> arguments) {
+                                      return self->ShowWindowHook(arguments);
+                                  });
     return FActive;
 }
 
 void TShowWindowHook::Remove() {
-    TCodeService& code = FPlatform.Code;
     {
         const std::lock_guard lock(FLock);
         FActive = false;
-        if (FTrampoline) UnhookCode(code, FTrampoline);
     }
-    if (FReplacement) code.FreeFunction(FReplacement);
+    FShowWindow.Remove();
 }
 
-std::uintptr_t TShowWindowHook::OriginalShowWindow(HWnd window, int command) {
-    TCodeAddress original = 0;
-    {
-        const std::shared_lock lock(FLock);
-        // A call that was on its way here when the hook was removed finds the function as it was.
-        original = FActive ? FTrampoline : FTarget;
-    }
-    Assert(original != 0);
-    const std::uintptr_t arguments[] = {window, static_cast<std::uintptr_t>(command)};
-    return FPlatform.Code.Call(TCallKind::StdCall, original, arguments);
-}
-
-std::uintptr_t TShowWindowHook::ShowWindowHook(HWnd window, int command) {
-    const std::uintptr_t result = OriginalShowWindow(window, command);
+std::uintptr_t TShowWindowHook::ShowWindowHook(std::span<const std::uintptr_t> arguments) {
+    const std::uintptr_t result = FShowWindow.CallOriginal(arguments);
+    const HWnd window = arguments[0];
+    const int command = static_cast<int>(arguments[1]);
     try {
         if (IsWindowOfInterest(window, command)) Report(window, IsModalOrForeignWindow(window));
     } catch (const std::exception&) {

@@ -1,11 +1,10 @@
 // The eye on windows that come up while a request is served: every ShowWindow of the process passes here.
 #pragma once
 
-#include <atomic>
 #include <memory>
 #include <shared_mutex>
 
-#include "platform/CodeService.h"
+#include "Engine/Hooks/RUXPatchedExport.h"
 #include "platform/Platform.h"
 #include "platform/Types.h"
 
@@ -23,17 +22,14 @@ class TShowWindowHook : public std::enable_shared_from_this<TShowWindowHook> {
 
  private:
     /// What the patched function does now. Answers what the real one answered, whatever happens afterwards.
-    std::uintptr_t ShowWindowHook(HWnd window, int command);
-    std::uintptr_t OriginalShowWindow(HWnd window, int command);
+    std::uintptr_t ShowWindowHook(std::span<const std::uintptr_t> arguments);
     bool IsWindowOfInterest(HWnd window, int command);
     bool IsModalOrForeignWindow(HWnd window);
     void Report(HWnd window, bool endsPopups);
 
     TPlatform& FPlatform;
     const std::uintptr_t FThread;
-    TCodeAddress FTarget = 0;
-    TCodeAddress FReplacement = 0;
-    TCodeAddress FTrampoline = 0;
+    TPatchedExport FShowWindow;
     /// Held for reading while the engine is used; never across a call that another thread must answer.
     std::shared_mutex FLock;
     bool FActive = false;

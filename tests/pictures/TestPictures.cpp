@@ -1,12 +1,7 @@
 // Drawing, pictures of windows and of the screen, and as the agent saves them: names, files, failures.
-#include <csetjmp>
-#include <cstdio>
 #include <fstream>
 #include <limits>
 #include <sstream>
-
-// Wants the standard files declared before it.
-#include <jpeglib.h>
 
 #include "Engine/TaskCenter/RUXJpeg.h"
 #include "Engine/TaskCenter/RUXWindowPic.h"
@@ -14,6 +9,7 @@
 #include "platform/headless/toolkit/HButtons.h"
 #include "platform/headless/toolkit/HLists.h"
 #include "tests/support/EngineFixture.h"
+#include "tests/support/Jpeg.h"
 
 namespace rux::test {
 
@@ -125,26 +121,6 @@ TRect Difference(const TBitmap& a, const TBitmap& b) {
                 found = {std::min(found.Left, x), std::min(found.Top, y), std::max(found.Right, x + 1),
                          std::max(found.Bottom, y + 1)};
     return found;
-}
-
-/// The picture in a JPEG; a text that is none ends the test program.
-TBitmap Decoded(const std::string& bytes) {
-    jpeg_decompress_struct jpeg{};
-    jpeg_error_mgr errors{};
-    jpeg.err = jpeg_std_error(&errors);
-    jpeg_create_decompress(&jpeg);
-    jpeg_mem_src(&jpeg, reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
-    jpeg_read_header(&jpeg, TRUE);
-    jpeg_start_decompress(&jpeg);
-    TBitmap picture{static_cast<int>(jpeg.output_width), static_cast<int>(jpeg.output_height), {}};
-    std::vector<TColor> row(jpeg.output_width);
-    while (jpeg.output_scanline < jpeg.output_height) {
-        auto* samples = reinterpret_cast<JSAMPLE*>(row.data());
-        jpeg_read_scanlines(&jpeg, &samples, 1);
-        picture.Pixels.insert(picture.Pixels.end(), row.begin(), row.end());
-    }
-    jpeg_destroy_decompress(&jpeg);
-    return picture;
 }
 
 /// Mean difference of a channel; 255 for pictures of different sizes.
@@ -271,7 +247,7 @@ TEST_F(TPictureTest, ThePrintLacksWhatLiesOverTheWindowAndTheScreenHasIt) {
     Desktop.CodeSpace().RemoveExport("user32.dll", "PrintWindow");
     Save(below.Handle(), "b.jpg");
     const auto saved = [&](const char* name) {
-        return Decoded(Files.ReadFile(NameFromSystem((Folder() / name).string())).value());
+        return DecodedJpeg(Files.ReadFile(NameFromSystem((Folder() / name).string())).value());
     };
     EXPECT_GT(Distance(alone, both), 20);
     EXPECT_LT(Distance(saved("a.jpg"), alone), 4);
@@ -372,7 +348,7 @@ TEST_F(TPictureTest, FilesOfBitmapsAndJpegs) {
     }
     const std::string large = JpegFileBytes(noise);
     EXPECT_GT(large.size(), std::size_t{1} << 17);
-    EXPECT_LT(Distance(Decoded(large), noise), 12);
+    EXPECT_LT(Distance(DecodedJpeg(large), noise), 12);
 }
 
 }  // namespace rux::test

@@ -4,7 +4,6 @@
 #include <chrono>
 #include <future>
 #include <map>
-#include <optional>
 #include <thread>
 
 #include "platform/headless/native/HMessageBox.h"

@@ -41,11 +41,6 @@ TColor LookGround(const HControl& control);
 TColor LookInk(const HControl& control);
 std::string LookCaption(const HControl& control);
 
-/// A triangle that points up or down, or left or right, in the middle of the place.
-enum class HArrow { Up, Down, Left, Right };
-void PaintArrow(HCanvas& canvas, const TRect& place, HArrow arrow, TColor color);
-/// A small button with an arrow on it.
-void PaintArrowButton(HCanvas& canvas, const TRect& place, HArrow arrow);
 void PaintImage(HCanvas& canvas, const TRect& place);
 
 }  // namespace rux

@@ -123,6 +123,24 @@ void PaintClassBackground(HCanvas& canvas, const HWindow& window) {
     }
 }
 
+void PaintArrow(HCanvas& canvas, const TRect& place, HArrow arrow, TColor color) {
+    const int x = (place.Left + place.Right) / 2, y = (place.Top + place.Bottom) / 2;
+    for (int i = 0; i < 4; ++i) {
+        // From the tip to the foot.
+        const int at = arrow == HArrow::Up || arrow == HArrow::Left ? i - 2 : 1 - i;
+        if (arrow == HArrow::Up || arrow == HArrow::Down)
+            canvas.Fill({x - i, y + at, x + i + 1, y + at + 1}, color);
+        else
+            canvas.Fill({x + at, y - i, x + at + 1, y + i + 1}, color);
+    }
+}
+
+void PaintArrowButton(HCanvas& canvas, const TRect& place, HArrow arrow) {
+    canvas.Fill(place, clBtnFace);
+    canvas.Edge(place, HEdge::Raised);
+    PaintArrow(canvas, place, arrow, clWindowText);
+}
+
 std::string WithoutAccelerator(std::string_view caption) {
     std::string plain;
     for (TTextCursor cursor(caption); !cursor.AtEnd(); cursor.Next()) {

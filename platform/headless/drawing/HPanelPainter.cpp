@@ -4,6 +4,7 @@
 
 #include "platform/headless/HLimits.h"
 #include "platform/headless/drawing/HControlPainter.h"
+#include "platform/headless/drawing/HFramePainter.h"
 #include "platform/headless/toolkit/HContainers.h"
 #include "platform/headless/toolkit/HPages.h"
 

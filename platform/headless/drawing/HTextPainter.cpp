@@ -3,6 +3,7 @@
 
 #include "platform/headless/HLimits.h"
 #include "platform/headless/drawing/HControlPainter.h"
+#include "platform/headless/drawing/HFramePainter.h"
 #include "platform/headless/toolkit/HEdits.h"
 #include "rtl/CodePage.h"
 #include "rtl/Dates.h"

@@ -1,6 +1,6 @@
 #include "platform/headless/native/HNativeCombo.h"
 
-#include "platform/headless/drawing/HCanvas.h"
+#include "platform/headless/drawing/HFramePainter.h"
 
 namespace rux {
 
@@ -89,12 +89,7 @@ void HNativeCombo::Paint(HCanvas& canvas, const HWindow& window) {
     canvas.Fill(client, clWindow);
     const int left = client.Right - 2 - ButtonWidth, bottom = client.Bottom - 2;
     canvas.Text({4, 2, left - 2, bottom}, window.Text, window.Enabled() ? clWindowText : clGrayText);
-    const TRect button{left, 2, client.Right - 2, bottom};
-    canvas.Fill(button, clBtnFace);
-    canvas.Edge(button, HEdge::Raised);
-    const int middle = left + ButtonWidth / 2, top = (2 + bottom) / 2 - 2;
-    for (int row = 0; row < 4; ++row)
-        canvas.Fill({middle - 3 + row, top + row, middle + 4 - row, top + row + 1}, clWindowText);
+    PaintArrowButton(canvas, {left, 2, client.Right - 2, bottom}, HArrow::Down);
     canvas.Edge(client, HEdge::Sunken);
 }
 

@@ -31,7 +31,7 @@ void SetLocaleFacts(TLocaleFacts facts) {
 }
 
 const TLocaleFacts& LocaleFacts() {
-    static const TLocaleFacts& initial = *new TLocaleFacts;
+    static const TLocaleFacts initial;
     const TLocaleFacts* facts = Current.Get();
     return facts ? *facts : initial;
 }

@@ -37,9 +37,9 @@ struct TNameTable {
     }
 };
 
-/// Never destroyed: names are spoken of until the last thread is gone.
+/// Made on first use, so that it goes after everything static that was made with names.
 TNameTable& Table() {
-    static TNameTable& table = *new TNameTable;
+    static TNameTable table;
     return table;
 }
 
@@ -64,7 +64,7 @@ TName InternName(std::string_view text) {
 }
 
 const std::string& NameText(TName name) {
-    static const std::string& none = *new std::string;
+    static const std::string none;
     TNameTable& table = Table();
     const std::shared_lock lock(table.Guard);
     return name.Id && name.Id <= table.Spellings.size() ? table.Spellings[name.Id - 1] : none;

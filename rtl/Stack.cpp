@@ -1,5 +1,7 @@
 #include "rtl/Stack.h"
 
+#include <atomic>
+
 #include "rtl/Exceptions.h"
 
 #if defined(__has_feature)
@@ -25,6 +27,12 @@ constexpr std::size_t AssumedRoom = 256 * KiB;
 #endif
 
 thread_local constinit std::uintptr_t Lowest = 0;
+constinit std::atomic<std::uintptr_t (*)()> Source{nullptr};
+
+std::uintptr_t LowestToldOrGuessed(std::uintptr_t here) {
+    if (!Lowest) Lowest = here > AssumedRoom ? here - AssumedRoom : 1;
+    return Lowest;
+}
 
 }  // namespace
 
@@ -32,10 +40,15 @@ void SetStackLimit(std::uintptr_t lowest) {
     Lowest = lowest;
 }
 
+void SetStackLimitSource(std::uintptr_t (*lowestOfThisThread)()) {
+    Source = lowestOfThisThread;
+}
+
 std::size_t StackRoom() {
     const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-    if (!Lowest) Lowest = here > AssumedRoom ? here - AssumedRoom : 1;
-    return here > Lowest ? here - Lowest : 0;
+    const auto source = Source.load(std::memory_order_relaxed);
+    const std::uintptr_t lowest = source ? source() : LowestToldOrGuessed(here);
+    return here > lowest ? here - lowest : 0;
 }
 
 void CheckStack() {

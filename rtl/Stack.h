@@ -8,6 +8,9 @@ namespace rux {
 
 /// Told by the platform for each thread that it starts: the lowest usable address of the thread's stack.
 void SetStackLimit(std::uintptr_t lowest);
+/// Told once by a platform that can say it of any thread at any time: then it is asked, and what
+/// SetStackLimit told counts no more.
+void SetStackLimitSource(std::uintptr_t (*lowestOfThisThread)());
 /// Bytes left; where no limit was told, counted from a cautious guess made at the thread's first question.
 std::size_t StackRoom();
 /// Raises EStackOverflow when less than a fixed reserve is left, enough to unwind and to report.

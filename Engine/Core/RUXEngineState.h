@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <shared_mutex>
 
 #include "Engine/Core/RUXLog.h"
@@ -26,6 +27,8 @@ class ITaskCenter {
  public:
     /// Posts a message of the task centre; answers whether that succeeded. Any thread.
     virtual bool PostTask(unsigned message, WParam wParam, LParam lParam) = 0;
+    /// The same with a reference to a request in wParam.
+    virtual bool PostRequest(unsigned message, const TIntf<ITestRequest>& request, LParam lParam) = 0;
     /// The request whose Execute is running innermost; nil for none. User-interface thread.
     virtual ITestRequest* Running() const = 0;
     /// Takes over what a request leaves behind that dies on another thread; freed on the user-interface
@@ -44,6 +47,7 @@ class TTaskCenterHolder {
     ITaskCenter* Get() const { return FCenter; }
     /// False also without a task centre. Any thread.
     bool PostTask(unsigned message, WParam wParam, LParam lParam);
+    bool PostRequest(unsigned message, const TIntf<ITestRequest>& request, LParam lParam);
     /// Without a task centre the pool is freed at once. Any thread.
     void Bury(TObjectPool pool);
 
@@ -85,6 +89,8 @@ struct TEngineState {
     std::shared_ptr<TShowWindowHook> ShowWindowHook;
 
     std::unique_ptr<TTypeRegistry> Registry;
+    /// Held while the groups are made, on first use.
+    std::mutex MakingGroups;
     std::unique_ptr<TIniClassGroup> ClassGroup;
     std::unique_ptr<TCheckEnabledMethodGroup> MethodGroup;
     std::unique_ptr<TRUXIntfDefineList> IntfDefines;

@@ -17,7 +17,9 @@ namespace rux {
 
 namespace {
 
-thread_local TFinderPool Pool;
+/// Finders live on the user-interface thread. No thread_local: on Windows one with a destructor keeps the
+/// library in its process for as long as the thread lives.
+TFinderPool Pool;
 
 constexpr std::int32_t NoPlace = std::numeric_limits<std::int32_t>::max();
 

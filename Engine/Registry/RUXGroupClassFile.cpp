@@ -27,12 +27,10 @@ std::optional<std::string> ReadGroupFile(const std::string& name, std::int64_t s
     return content;
 }
 
-/// A worker's report may be the first to ask.
-constinit std::mutex MakingLock;
-
 template <class T>
 T& MadeOnFirstUse(std::unique_ptr<T>& place) {
-    const std::lock_guard lock(MakingLock);
+    // A worker's report may be the first to ask.
+    const std::lock_guard lock(Engine().MakingGroups);
     if (!place) {
         auto made = std::make_unique<T>();
         made->LoadFile();

@@ -5,6 +5,7 @@
 #include "Engine/Core/RUXLimits.h"
 #include "Engine/TaskCenter/RUXTaskMessages.h"
 #include "Engine/TaskCenter/RUXUnexpectedWindows.h"
+#include "platform/ClockService.h"
 #include "platform/KernelService.h"
 #include "platform/WindowService.h"
 #include "platform/toolkit/Forms.h"
@@ -20,16 +21,10 @@ constexpr const char* RegisteredMessageName = "RUX.{7F992E1A-1248-42F8-9435-EE05
 
 }  // namespace
 
-bool PostRequestTask(unsigned message, const TIntf<ITestRequest>& request, LParam lParam) {
-    const WParam param = DetachToParam(request);
-    if (Engine().TaskCenter.PostTask(message, param, lParam)) return true;
-    AdoptFromParam(param);  // nobody else will drop it
-    return false;
-}
-
 // ------------------------------------------------------------------------------------------ life
 
-TRUXTaskCenter::TRUXTaskCenter() {
+// The time in milliseconds runs ahead of the count of messages.
+TRUXTaskCenter::TRUXTaskCenter() : FMail(static_cast<WParam>(Platform().Clock.TickCount())) {
     TWindowService& windows = Platform().Windows;
     FRegisteredMessage = windows.RegisterWindowMessageA(RegisteredMessageName);
     FWindow = Cast<TApplication>(&Platform().Toolkit.Application()).Handle();
@@ -42,7 +37,9 @@ TRUXTaskCenter::TRUXTaskCenter() {
     };
     FInstance = instance(&TRUXTaskCenter::WindowProc);
     FHandler = instance(&TRUXTaskCenter::TaskCenterWndProc);
-    FPreviousProc = windows.SetWindowProc(FWindow, FInstance);
+    // Noted first: where the library is loaded by another thread, the next message may come at once.
+    FPreviousProc = windows.GetWindowProc(FWindow);
+    windows.SetWindowProc(FWindow, FInstance);
 }
 
 TRUXTaskCenter::~TRUXTaskCenter() {
@@ -50,13 +47,21 @@ TRUXTaskCenter::~TRUXTaskCenter() {
     windows.SetWindowProc(FWindow, FPreviousProc);
     windows.FreeObjectInstance(FInstance);
     windows.FreeObjectInstance(FHandler);
+    // As far as they can be reached from this thread; what stays carries nothing that could be lost.
     TMessage message;
     while (windows.PeekMessageA(message, FWindow, RUXM_FIRST, RUXM_LAST))
-        if (message.Number != RUXM_CLOSEWINDOW) AdoptFromParam(message.WParameter);
+        continue;
 }
 
 bool TRUXTaskCenter::PostTask(unsigned message, WParam wParam, LParam lParam) {
     return Platform().Windows.PostMessageA(FWindow, message, wParam, lParam);
+}
+
+bool TRUXTaskCenter::PostRequest(unsigned message, const TIntf<ITestRequest>& request, LParam lParam) {
+    const WParam number = FMail.Send(request);
+    if (PostTask(message, number, lParam)) return true;
+    FMail.Take(number);  // nobody else will
+    return false;
 }
 
 ITestRequest* TRUXTaskCenter::Running() const {
@@ -68,8 +73,10 @@ ITestRequest* TRUXTaskCenter::Running() const {
 LResult TRUXTaskCenter::WindowProc(HWnd window, unsigned message, WParam wParam, LParam lParam) {
     if (message != RUXM_EXECUTE || wParam == 0)
         return Platform().Windows.CallWindowProcA(FHandler, window, message, wParam, lParam);
-    FSetAside.push_back(AdoptFromParam(wParam));
-    RunSetAside();
+    if (TIntf<ITestRequest> request = FMail.Take(wParam)) {
+        FSetAside.push_back(std::move(request));
+        RunSetAside();
+    }
     return 0;
 }
 
@@ -81,7 +88,7 @@ bool TRUXTaskCenter::MayNest() const {
 void TRUXTaskCenter::RunSetAside() {
     // Whoever has come down to a depth that allows it runs what is waiting, in order.
     while (!FSetAside.empty() && MayNest()) {
-        const WParam next = DetachToParam(std::move(FSetAside.front()));
+        const WParam next = FMail.Send(std::move(FSetAside.front()));
         FSetAside.pop_front();
         Platform().Windows.CallWindowProcA(FHandler, FWindow, RUXM_EXECUTE, next, 0);
     }
@@ -107,24 +114,28 @@ void TRUXTaskCenter::HandleCopyData(LParam lParam) {
 void TRUXTaskCenter::HandleTaskMessage(unsigned message, WParam wParam, LParam lParam) {
     Assert(wParam != 0);
     switch (message) {
-        case RUXM_EXECUTE:
-            Execute(AdoptFromParam(wParam));
-            return;
-        case RUXM_FINISHSTEP:
-            FinishStep(AdoptFromParam(wParam), static_cast<unsigned>(lParam));
-            return;
-        case RUXM_WINDOWSHOWN:
-            HandleWindowShown(AdoptFromParam(wParam), static_cast<HWnd>(lParam));
-            return;
         case RUXM_CLOSEWINDOW:
             CloseUnexpectedWindow(static_cast<HWnd>(wParam));
             return;
+        case RUXM_EXECUTE:
+        case RUXM_FINISHSTEP:
+        case RUXM_WINDOWSHOWN:
         case RUXM_SAVEWINDOWPIC:
-            SaveUnexpectedWindowPic(*AdoptFromParam(wParam), static_cast<HWnd>(lParam));
+            if (const TIntf<ITestRequest> request = FMail.Take(wParam))
+                HandleRequestMessage(message, request, lParam);
             return;
         default:
             Assert(false, Ansi("未处理的消息类型"));
     }
+}
+
+void TRUXTaskCenter::HandleRequestMessage(unsigned message, const TIntf<ITestRequest>& request,
+                                          LParam lParam) {
+    const auto window = static_cast<HWnd>(lParam);
+    if (message == RUXM_EXECUTE) return Execute(request);
+    if (message == RUXM_FINISHSTEP) return FinishStep(request, static_cast<unsigned>(lParam));
+    if (message == RUXM_WINDOWSHOWN) return HandleWindowShown(request, window);
+    SaveUnexpectedWindowPic(*request, window);
 }
 
 // ------------------------------------------------------------------------------------------ running

@@ -9,11 +9,13 @@
 #include <vector>
 
 #include "Engine/Core/RUXEngineState.h"
+#include "Engine/TaskCenter/RUXRequestMail.h"
 #include "platform/Types.h"
 
 namespace rux {
 
-/// Made and freed on the user-interface thread, which runs all its handlers; they are re-entrant.
+/// Its handlers all run on the user-interface thread; they are re-entrant. It is made and freed on the thread
+/// that loads and unloads the library, which may be another one; never freed while a handler runs.
 class TRUXTaskCenter final : public ITaskCenter {
  public:
     /// Subclasses the application's hidden window. Raises EOSError when there is none.
@@ -22,6 +24,7 @@ class TRUXTaskCenter final : public ITaskCenter {
     ~TRUXTaskCenter();
 
     bool PostTask(unsigned message, WParam wParam, LParam lParam) override;
+    bool PostRequest(unsigned message, const TIntf<ITestRequest>& request, LParam lParam) override;
     ITestRequest* Running() const override;
     void Bury(TObjectPool pool) override;
 
@@ -35,6 +38,7 @@ class TRUXTaskCenter final : public ITaskCenter {
 
     LResult TaskCenterWndProc(HWnd window, unsigned message, WParam wParam, LParam lParam);
     void HandleTaskMessage(unsigned message, WParam wParam, LParam lParam);
+    void HandleRequestMessage(unsigned message, const TIntf<ITestRequest>& request, LParam lParam);
     void HandleCopyData(LParam lParam);
     void Execute(const TIntf<ITestRequest>& request);
     void Invoke(const TIntf<ITestRequest>& request);
@@ -43,6 +47,7 @@ class TRUXTaskCenter final : public ITaskCenter {
     void FreeMadeBy(const ITestRequest& request);
     void EmptyGraves();
 
+    TRequestMail FMail;
     HWnd FWindow = 0;
     unsigned FRegisteredMessage = 0;
     /// The procedure in the window, and the one under it that runs a request. What a request lets through

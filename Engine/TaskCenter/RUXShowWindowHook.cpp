@@ -30,7 +30,7 @@ bool BringsUp(int command) {
 
 TShowWindowHook::TShowWindowHook(TPlatform& platform)
     : FPlatform(platform),
-      FThread(platform.Kernel.GetCurrentThreadId()),
+      FThread(platform.Toolkit.MainThreadId()),
       FShowWindow(platform.Code, TCallKind::StdCall) {}
 
 bool TShowWindowHook::Install() {

@@ -1,5 +1,5 @@
 // Messages of the task centre. A request in wParam is a counted reference of its own: the sender adds one,
-// the handler takes it over.
+// the handler takes it over. See TRequestMail.
 #pragma once
 
 #include "Engine/Core/RUXEngineState.h"
@@ -22,14 +22,9 @@ enum TTaskMessage : unsigned {
     RUXM_SAVEWINDOWPIC = 13029,
 };
 
-inline WParam DetachToParam(TIntf<ITestRequest> request) {
-    return reinterpret_cast<WParam>(request.Detach());
-}
-inline TIntf<ITestRequest> AdoptFromParam(WParam param) {
-    return TIntf<ITestRequest>::Adopt(reinterpret_cast<ITestRequest*>(param));
-}
-
 /// Posts a message that carries a reference to the request; answers whether that succeeded. Any thread.
-bool PostRequestTask(unsigned message, const TIntf<ITestRequest>& request, LParam lParam);
+inline bool PostRequestTask(unsigned message, const TIntf<ITestRequest>& request, LParam lParam) {
+    return Engine().TaskCenter.PostRequest(message, request, lParam);
+}
 
 }  // namespace rux

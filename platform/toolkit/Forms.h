@@ -70,6 +70,9 @@ class TToolkit {
     virtual TObject& Application() = 0;
     virtual TScreen& Screen() = 0;
     virtual TMouse& Mouse() = 0;
+    /// The thread that the application's windows live on, as TKernelService::GetCurrentThreadId numbers it.
+    /// Any thread.
+    virtual std::uintptr_t MainThreadId() = 0;
     virtual TClassTable& Classes() = 0;
     /// The live object behind the value that the toolkit keeps as a property on its windows; nil if it is
     /// none.

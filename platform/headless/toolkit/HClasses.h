@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "platform/headless/toolkit/HProps.h"
+#include "platform/shared/ClassTable.h"
 
 namespace rux {
 
@@ -34,11 +35,8 @@ std::unique_ptr<HObject> HMake(HToolkit& kit, const HClassDef& def) {
 }
 
 /// User-interface thread.
-class HClasses final : public TClassTable {
+class HClasses final : public TNamedClasses {
  public:
-    const TClass& Define(std::string_view name, const TClass* parent) override;
-    const TClass* Find(std::string_view name) const override;
-
     /// A class of the toolkit. `parent` must have been added before; empty for the root. Without a maker the
     /// parent's is taken, without properties of its own the parent's table.
     const HClassDef& Add(std::string_view name, std::string_view parent, HMaker make = nullptr,
@@ -54,9 +52,6 @@ class HClasses final : public TClassTable {
 
  private:
     const HClassDef& Keep(HClassDef def);
-    std::deque<TClass> FClasses;
-    std::unordered_map<std::uint64_t, const TClass*> FByNameAndParent;
-    std::unordered_map<std::uint32_t, const TClass*> FByName;
     std::deque<HClassDef> FDefs;
     std::unordered_map<std::uint32_t, const HClassDef*> FDefByName;
 };

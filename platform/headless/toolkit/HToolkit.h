@@ -79,6 +79,7 @@ class HToolkit final : public TToolkit, public TScreen, public TMouse {
     TObject& Application() override;
     TScreen& Screen() override { return *this; }
     TMouse& Mouse() override { return *this; }
+    std::uintptr_t MainThreadId() override { return FDesktop.OwnerThread(); }
     TClassTable& Classes() override { return FClasses; }
     TObject* ObjectOfProp(std::uintptr_t value) override;
     std::uint64_t NewRefNumber() override;

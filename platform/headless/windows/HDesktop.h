@@ -55,6 +55,7 @@ class HDesktop final : public TWindowService {
     /// the loops are to end: False then. `code` raises nothing.
     bool RunOnOwner(const std::function<void()>& code);
     bool OnOwnerThread() const { return FKernel.GetCurrentThreadId() == FThread; }
+    std::uintptr_t OwnerThread() const { return FThread; }
     TKernelService& Kernel() const { return FKernel; }
     /// Answers whether the window was disabled before.
     bool EnableWindow(HWnd window, bool enabled);

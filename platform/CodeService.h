@@ -51,13 +51,15 @@ class TCodeService {
     virtual void ReadMemory(TCodeAddress address, void* bytes, std::size_t size) = 0;
     virtual void WriteMemory(TCodeAddress address, const void* bytes, std::size_t size) = 0;
 
-    /// Makes a function that native code can call; 0 when there is no room. What `body` raises is the
-    /// caller's.
+    /// Makes a function that native code can call; 0 when there is no room. No exception leaves it, as
+    /// native frames would not let one through: what `body` raises goes to the application's own report, and
+    /// the call answers 0.
     virtual TCodeAddress MakeFunction(TCallKind kind, unsigned arguments, TNativeBody body) = 0;
-    /// A call that is running goes on to its end.
-    virtual void FreeFunction(TCodeAddress function) = 0;
-    /// Calls what stands at the address. What the function raises passes through; EAccessViolation where no
-    /// function is.
+    /// A call that is running goes on to its end. One that arrives afterwards, on its way since before, goes
+    /// to `instead`, which takes its arguments in the same way, or answers 0 where that is 0.
+    virtual void FreeFunction(TCodeAddress function, TCodeAddress instead = 0) = 0;
+    /// Calls what stands at the address. What a native function raises becomes an error of this process:
+    /// EAccessViolation where it touches memory that it may not touch, and where no function is.
     virtual std::uintptr_t Call(TCallKind kind, TCodeAddress function,
                                 std::span<const std::uintptr_t> arguments) = 0;
 };

@@ -42,6 +42,10 @@ class TKernelService {
     /// Starts `body` on a thread of its own; what leaves `body` as an exception ends that thread only. Raises
     /// EOSError when no thread can be made.
     virtual std::unique_ptr<TThreadHandle> StartThread(std::function<void()> body) = 0;
+    /// Keeps threads that have been started and have not begun from ever running; their bodies are destroyed.
+    /// For whoever waits for threads where none can begin: a library that is being unloaded holds up every
+    /// new one. Does nothing on a system where threads always begin.
+    virtual void KeepOutNewThreads() = 0;
     virtual void Sleep(std::uint32_t milliseconds) = 0;
     virtual std::uint32_t GetCurrentProcessId() = 0;
     virtual std::uintptr_t GetCurrentThreadId() = 0;

@@ -37,7 +37,8 @@ class TWindowService {
     virtual LResult SendMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) = 0;
     /// Queues the message; any thread. False when the window does not exist or the queue is full or closed.
     virtual bool PostMessageA(HWnd window, unsigned message, WParam wParam, LParam lParam) = 0;
-    /// Takes the first queued message of `window` with first <= number <= last out of the queue.
+    /// Takes the first queued message of `window`, or of a window below it, with first <= number <= last out
+    /// of the queue. `last` is not 0.
     virtual bool PeekMessageA(TMessage& message, HWnd window, unsigned first, unsigned last) = 0;
     virtual unsigned RegisterWindowMessageA(const std::string& name) = 0;
 
@@ -82,7 +83,7 @@ class TWindowService {
     virtual bool SetFocus(HWnd window) = 0;
 
     /// Has the window draw itself, with all on it and nothing that lies over it. False, and the picture as it
-    /// was, for no window and for one of more pixels than BitmapPixelLimit.
+    /// was, for no window, for one without pixels and for one of more than BitmapPixelLimit.
     virtual bool PrintWindow(HWnd window, TBitmap& picture) = 0;
     /// What stands on the screen in that place; black beyond its edges. False as above.
     virtual bool CopyScreen(const TRect& place, TBitmap& picture) = 0;

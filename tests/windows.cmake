@@ -14,4 +14,53 @@ function(rux_windows_suite name)
   set_tests_properties(${name} PROPERTIES TIMEOUT 300)
 endfunction()
 
-rux_windows_suite(contract SOURCES contract/*.cpp contract/win32/*.cpp LIBRARIES rux_win32)
+rux_windows_suite(contract SOURCES contract/*.cpp contract/win32/*.cpp LIBRARIES rux_engine rux_win32)
+
+# It exports the table that a toolkit attaches by, undecorated as the agent looks for it; its header is C as well.
+enable_language(C)
+add_library(toolkit_table_in_c OBJECT windows/toolkit/TableInC.c)
+target_include_directories(toolkit_table_in_c PRIVATE ${CMAKE_SOURCE_DIR})
+target_compile_options(toolkit_table_in_c PRIVATE -std=c99 -pedantic -Wall -Wextra -Werror)
+rux_windows_suite(toolkit SOURCES windows/toolkit/*.cpp LIBRARIES toolkit_table_in_c rux_win32)
+target_link_options(test_toolkit PRIVATE -Wl,--kill-at)
+
+rux_windows_suite(parameters SOURCES windows/parameters/*.cpp LIBRARIES rux_engine rux_win32)
+
+# The process that the library is placed into is the test itself: it finds the library and the toolkit's module beside it.
+rux_windows_suite(library SOURCES windows/library/*.cpp LIBRARIES rux_flags ws2_32)
+set_target_properties(test_library PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+add_dependencies(test_library rux standin)
+foreach(shared libgcc_s_dw2-1.dll libwinpthread-1.dll)
+  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${shared} OUTPUT_VARIABLE path
+                  OUTPUT_STRIP_TRAILING_WHITESPACE)
+  file(COPY ${path} DESTINATION ${CMAKE_BINARY_DIR})
+endforeach()
+
+# An application for the agent to live in, the module that it looks for there, and what places it there.
+function(rux_windows_program program folder)
+  file(GLOB sources CONFIGURE_DEPENDS windows/${folder}/*.cpp)
+  add_executable(${program} ${sources} windows/common/ControlLine.cpp)
+  target_include_directories(${program} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${program} PRIVATE rux_flags ws2_32 ${ARGN})
+  set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+endfunction()
+
+rux_windows_program(testhost host comctl32)
+set_target_properties(testhost PROPERTIES WIN32_EXECUTABLE TRUE)
+rux_windows_program(inject inject)
+add_library(standin MODULE windows/standin/vcl100.cpp)
+target_link_libraries(standin PRIVATE rux_flags)
+set_target_properties(standin PROPERTIES PREFIX "" OUTPUT_NAME vcl100 SUFFIX .bpl
+                      LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+
+# Driven from the other side, by a program of the native build.
+set(RUX_NATIVE_TESTS ${CMAKE_SOURCE_DIR}/build/tests CACHE PATH "Where the native build has its test programs")
+list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " wine_run)
+foreach(row matrix=*TModalMatrix* programs=TWinePrograms.*)
+  string(REGEX MATCH "^(.*)=(.*)$" row ${row})
+  add_test(NAME wine_${CMAKE_MATCH_1} COMMAND ${RUX_NATIVE_TESTS}/test_wine --gtest_filter=${CMAKE_MATCH_2})
+  # Agents take ports of this machine.
+  set_tests_properties(wine_${CMAKE_MATCH_1} PROPERTIES RUN_SERIAL TRUE TIMEOUT 300
+                       ENVIRONMENT "RUX_WINE_RUN=${wine_run};RUX_WINDOWS_BUILD=${CMAKE_BINARY_DIR}"
+                       SKIP_REGULAR_EXPRESSION "RUX_[A-Z_]* is not set|is not built")
+endforeach()

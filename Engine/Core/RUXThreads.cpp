@@ -43,6 +43,7 @@ void TEngineThreads::EndWait(TEvent& event) {
 }
 
 void TEngineThreads::Release() {
+    Platform().Kernel.KeepOutNewThreads();
     const std::lock_guard lock(FLock);
     FReleased = true;
     for (TEvent* event : FWaiting) event->SetEvent();

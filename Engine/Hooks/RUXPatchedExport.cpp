@@ -18,14 +18,14 @@ bool TPatchedExport::Install(const std::string& module, const std::string& name,
         if (HookCode(FCode, FTarget, FReplacement, FTrampoline)) return true;
     } catch (const EAccessViolation&) {  // no memory for the trampoline
     }
-    FCode.FreeFunction(std::exchange(FReplacement, 0));
+    FCode.FreeFunction(std::exchange(FReplacement, 0), FTarget);
     return false;
 }
 
 void TPatchedExport::Remove() {
     const std::lock_guard lock(FLock);
     // Where the patch cannot be undone, the function must go on to lead somewhere.
-    if (UnhookCode(FCode, FTrampoline)) FCode.FreeFunction(std::exchange(FReplacement, 0));
+    if (UnhookCode(FCode, FTrampoline)) FCode.FreeFunction(std::exchange(FReplacement, 0), FTarget);
 }
 
 std::uintptr_t TPatchedExport::CallOriginal(std::span<const std::uintptr_t> arguments) {

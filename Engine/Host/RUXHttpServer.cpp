@@ -66,6 +66,7 @@ bool TRUXHttpDaemon::WaitUntilListening() {
 void TRUXHttpDaemon::Terminate() {
     FTerminated = true;
     FListener->Interrupt();
+    Platform().Kernel.KeepOutNewThreads();
     FThread->WaitFor(WaitForever);
 }
 

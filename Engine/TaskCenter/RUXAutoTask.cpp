@@ -49,8 +49,8 @@ TRUXTaskCenter::~TRUXTaskCenter() {
     windows.FreeObjectInstance(FHandler);
     // As far as they can be reached from this thread; what stays carries nothing that could be lost.
     TMessage message;
-    while (windows.PeekMessageA(message, FWindow, RUXM_FIRST, RUXM_LAST))
-        continue;
+    while (windows.PeekMessageA(message, FWindow, RUXM_FIRST, RUXM_LAST)) {
+    }
 }
 
 bool TRUXTaskCenter::PostTask(unsigned message, WParam wParam, LParam lParam) {

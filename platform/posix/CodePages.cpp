@@ -2,6 +2,8 @@
 
 #include <iconv.h>
 
+#include <algorithm>
+#include <functional>
 #include <span>
 #include <string>
 
@@ -15,6 +17,9 @@ constexpr std::size_t UnitCount = 0x10000;
 struct TRange {
     unsigned First, Last;
 };
+
+/// What a page of single bytes leaves open here stands for the control character of the same number.
+constexpr TRange UpperControls{0x80, 0x9F};
 
 /// Lead bytes of the pages that have characters of two.
 struct TLeadRanges {
@@ -39,6 +44,10 @@ constexpr TUserArea UserAreas936[] = {
     {{0xF8, 0xFE}, {0xA1, 0xFE}, 0xE234},
     {{0xA1, 0xA7}, {0x40, 0xA0}, 0xE4C6},
 };
+/// The last of them fill what the other characters of the page leave open.
+constexpr char16_t FirstFillUnit936 = 0xE766;
+constexpr TRange Leads936{0x81, 0xFE};
+constexpr TRange Trails936{0x40, 0xFE};
 constexpr unsigned DeleteByte = 0x7F;  // no trail byte in 936
 constexpr unsigned EuroByte936 = 0x80;
 constexpr char16_t EuroSign = 0x20AC;
@@ -109,6 +118,21 @@ void AddUserArea(TCodePageTables& page, const TUserArea& area) {
     }
 }
 
+void FillRest936(TCodePageTables& page) {
+    char16_t unit = FirstFillUnit936;
+    for (unsigned lead = Leads936.First; lead <= Leads936.Last; ++lead) {
+        for (unsigned trail = Trails936.First; trail <= Trails936.Last; ++trail) {
+            const unsigned place = lead << 8 | trail;
+            if (trail != DeleteByte && !page.ToWide[place]) AddPlace(page, place, unit++);
+        }
+    }
+}
+
+void AddUpperControls(TCodePageTables& page) {
+    for (unsigned byte = UpperControls.First; byte <= UpperControls.Last; ++byte)
+        AddPlace(page, byte, static_cast<char16_t>(byte));
+}
+
 }  // namespace
 
 TCodePageTables LoadCodePage(unsigned number) {
@@ -122,7 +146,9 @@ TCodePageTables LoadCodePage(unsigned number) {
     if (number == 936) {
         AddPlace(page, EuroByte936, EuroSign);
         for (const TUserArea& area : UserAreas936) AddUserArea(page, area);
+        FillRest936(page);
     }
+    if (std::none_of(page.Lead.begin(), page.Lead.end(), std::identity())) AddUpperControls(page);
     return page;
 }
 

@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <ctime>
 
-#include "platform/posix/PosixLimits.h"
+#include "platform/shared/ServiceLimits.h"
 
 namespace rux {
 namespace {

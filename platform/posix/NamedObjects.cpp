@@ -9,6 +9,7 @@
 #include "platform/posix/FileContents.h"
 #include "platform/posix/PosixLimits.h"
 #include "platform/posix/SystemErrors.h"
+#include "platform/shared/ServiceLimits.h"
 
 namespace rux {
 namespace {
@@ -129,9 +130,10 @@ bool TNamedObjects::CreateMutex(const std::string& name) {
 std::optional<std::string> TNamedObjects::ReadMapping(const std::string& name, std::size_t size) {
     std::size_t length = 0;
     const TFileDescriptor file = OpenToRead(PathOf(MappingKind, name), length);
+    const std::size_t room = (length + MappingPage - 1) / MappingPage * MappingPage;
     std::optional<std::string> bytes;
-    if (file && size <= FileMappingLimit && size <= length) bytes = ReadUpTo(file.Get(), size);
-    if (bytes && bytes->size() < size) bytes.reset();
+    if (file && size <= FileMappingLimit && size <= room) bytes = ReadUpTo(file.Get(), size);
+    if (bytes) bytes->resize(size);
     SetLastSystemError(bytes ? 0 : file ? ERROR_ACCESS_DENIED : ERROR_FILE_NOT_FOUND);
     return bytes;
 }

@@ -24,7 +24,8 @@ class TNamedObjects {
 
     bool OpenMutex(const std::string& name);
     bool CreateMutex(const std::string& name);
-    /// Nothing when the mapping is smaller than `size`, or `size` beyond FileMappingLimit.
+    /// Nothing when the mapping is smaller than `size`, or `size` beyond FileMappingLimit. A mapping is as
+    /// large as its pages: bytes behind its size up to the end of its last page are there, zeros.
     std::optional<std::string> ReadMapping(const std::string& name, std::size_t size);
 
     /// What the creator of a mapping does: makes it or replaces its content, or takes it away.

@@ -4,9 +4,9 @@
 #include <sys/stat.h>
 
 #include "platform/posix/FileContents.h"
-#include "platform/posix/PosixLimits.h"
 #include "platform/posix/SystemNames.h"
 #include "platform/posix/TreeDeletion.h"
+#include "platform/shared/ServiceLimits.h"
 #include "rtl/Exceptions.h"
 
 namespace rux {
@@ -81,7 +81,7 @@ bool TPosixFiles::WriteFile(const std::string& name, std::string_view bytes) {
 
 std::int64_t TPosixFiles::LastWriteTime(const std::string& name) {
     struct stat facts {};
-    if (!Look(name, facts)) return 0;
+    if (!Look(name, facts) || S_ISDIR(facts.st_mode)) return 0;
     // The system's times go by ticks: size and place tell apart what was written within one.
     std::uint64_t stamp = Mix(static_cast<std::uint64_t>(facts.st_mtim.tv_sec),
                               static_cast<std::uint64_t>(facts.st_mtim.tv_nsec));

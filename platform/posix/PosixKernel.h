@@ -35,6 +35,7 @@ class TPosixKernel : public TKernelService {
 
     std::unique_ptr<TEvent> CreateEventA() override;
     std::unique_ptr<TThreadHandle> StartThread(std::function<void()> body) override;
+    void KeepOutNewThreads() override {}
     void Sleep(std::uint32_t milliseconds) override;
     std::uint32_t GetCurrentProcessId() override;
     std::uintptr_t GetCurrentThreadId() override;

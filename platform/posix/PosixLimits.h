@@ -2,27 +2,14 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 
 namespace rux {
 
 /// Stack of a thread that the kernel service starts, unless the host says otherwise.
 inline constexpr std::size_t WorkerStackSize = 512 * 1024;
-/// Connections that may wait to be accepted; the system cuts it to its own bound.
-inline constexpr int SocketBacklog = 1024;
-/// Bytes that one read of a socket brings at most; a line's limit can be overstepped by so much in memory.
-inline constexpr std::size_t SocketChunk = 16 * 1024;
-/// Milliseconds after which a peer that takes nothing of what is sent counts as gone.
-inline constexpr std::uint32_t SendStallLimit = 120000;
-/// Largest file that is read as a whole.
-inline constexpr std::size_t ReadFileLimit = std::size_t{64} << 20;
-/// Largest piece of a named file mapping.
-inline constexpr std::size_t FileMappingLimit = std::size_t{1} << 20;
 /// Tries to create a named mutex while other processes are creating it, too.
 inline constexpr int MutexAttempts = 1000;
-/// Tries to find a free name for a temporary file.
-inline constexpr int TemporaryNameAttempts = 100;
-/// Entries that cannot be deleted, after which the deletion of a folder is given up.
-inline constexpr std::size_t DeleteTreeFailureLimit = 1000;
+/// What a file mapping's size is rounded up to; the window system's measure.
+inline constexpr std::size_t MappingPage = 4096;
 
 }  // namespace rux

@@ -1,18 +1,10 @@
-// Errors of the network in the window system's numbers, and their texts.
+// Errors of the network in the window system's numbers.
 #pragma once
 
-#include <string>
+#include "platform/shared/SocketErrors.h"
 
 namespace rux {
 
-inline constexpr int WSAEWOULDBLOCK = 10035;
-inline constexpr int WSAEINVAL = 10022;
-inline constexpr int WSAENOTSOCK = 10038;
-inline constexpr int WSAEADDRINUSE = 10048;
-inline constexpr int WSASYSCALLFAILURE = 10107;
-
 int SocketErrorOf(int errorNumber);
-/// A short English text; empty for 0.
-std::string SocketErrorText(int socketError);
 
 }  // namespace rux

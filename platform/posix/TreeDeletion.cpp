@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "platform/posix/FileDescriptor.h"
-#include "platform/posix/PosixLimits.h"
+#include "platform/shared/ServiceLimits.h"
 
 namespace rux {
 namespace {
@@ -129,8 +129,11 @@ bool TTreeDeletion::Run(const std::string& path) {
 bool DeleteSystemTree(std::string path) {
     while (path.ends_with('/')) path.pop_back();
     if (path.empty()) return false;
-    struct stat facts {};
+    struct stat facts {
+    }, root{};
     if (::lstat(path.c_str(), &facts) != 0) return errno == ENOENT || errno == ENOTDIR;
+    const bool rootKnown = ::stat("/", &root) == 0;
+    if (!rootKnown || (facts.st_dev == root.st_dev && facts.st_ino == root.st_ino)) return false;
     if (S_ISLNK(facts.st_mode)) return ::unlink(path.c_str()) == 0;
     return S_ISDIR(facts.st_mode) && TTreeDeletion().Run(path);
 }

@@ -22,7 +22,7 @@ struct TWin32Platform {
     TWin32Windows Windows{Thunks};
     TWin32Sockets Sockets;
     TWin32Files Files;
-    WToolkit Toolkit{Windows, Thunks};
+    WToolkit Toolkit{Thunks};
 
     TPlatform Platform() { return {Windows, Kernel, Code, Clock, Sockets, Files, Toolkit}; }
 };

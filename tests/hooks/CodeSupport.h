@@ -46,7 +46,7 @@ class TCodeMemory : public TCodeService {
     bool IsNtFamily() override { return true; }
     TCodeAddress GetProcAddress(const std::string&, const std::string&) override { return 0; }
     TCodeAddress MakeFunction(TCallKind, unsigned, TNativeBody) override { return 0; }
-    void FreeFunction(TCodeAddress) override {}
+    void FreeFunction(TCodeAddress, TCodeAddress) override {}
     std::uintptr_t Call(TCallKind, TCodeAddress, std::span<const std::uintptr_t>) override { return 0; }
 };
 

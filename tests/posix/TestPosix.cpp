@@ -1,148 +1,34 @@
-// The contract on Linux, and what is Linux's own.
-#include <arpa/inet.h>
+// What is Linux's own.
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <atomic>
 #include <chrono>
 #include <climits>
-#include <filesystem>
 #include <fstream>
 
-#include "BoundaryContract.h"
+#include <gtest/gtest.h>
+
 #include "platform/posix/CodePages.h"
 #include "platform/posix/ManualClock.h"
 #include "platform/posix/PosixEvent.h"
 #include "platform/posix/PosixPlatform.h"
 #include "platform/posix/SystemNames.h"
-#include "platform/posix/TreeDeletion.h"
 #include "rtl/Exceptions.h"
+#include "support/PosixGround.h"
 
 namespace rux::test {
 namespace {
 
-namespace fs = std::filesystem;
-
-/// A folder for one test, open to every user.
-class TTemporaryFolder {
- public:
-    TTemporaryFolder() {
-        std::string pattern = (fs::temp_directory_path() / "rux-test-XXXXXX").string();
-        Path = ::mkdtemp(pattern.data());
-        fs::permissions(Path, fs::perms::all);
-    }
-    ~TTemporaryFolder() { DeleteSystemTree(Path); }
-    std::string Path;
-};
-
-TSocketHandle ConnectTo(const char* address, std::uint16_t port) {
-    TFileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    sockaddr_in name{};
-    name.sin_family = AF_INET;
-    name.sin_port = htons(port);
-    ::inet_pton(AF_INET, address, &name.sin_addr);
-    const bool connected = ::connect(socket.Get(), reinterpret_cast<sockaddr*>(&name), sizeof name) == 0;
-    return connected ? socket.Detach() : INVALID_SOCKET;
-}
-
-/// What must be there before the services.
-struct TPosixGround {
-    TTemporaryFolder Folder, Objects;
-    std::unique_ptr<TManualClock> OwnClock = std::make_unique<TManualClock>();
-    TManualClock& Clock = *OwnClock;
-    TPosixPlatform Services{{.ObjectFolder = Objects.Path}, {.AnyAddress = "127.0.0.1"}, std::move(OwnClock)};
-};
-
-class TPosixUnderTest final : TPosixGround, public TPlatformUnderTest {
- public:
-    TPosixUnderTest() : TPlatformUnderTest(Services.Kernel, Services.Sockets, Services.Files) {}
-    std::uint64_t Tick() override { return Clock.TickCount(); }
-    void Advance(std::uint64_t milliseconds) override { Clock.Advance(milliseconds); }
-    void WaitUntilWaiters(std::size_t count, std::uint64_t notBefore) override {
-        Clock.WaitUntilWaiters(count, notBefore);
-    }
-    void WaitForAllThreads() override { Services.Kernel.WaitForAllThreads(); }
-    std::string Folder() const override { return NameFromSystem(TPosixGround::Folder.Path); }
-    void PublishMapping(const std::string& name, std::string_view bytes) override {
-        Services.Kernel.NamedObjects().PublishMapping(name, bytes);
-    }
-    TSocketHandle Connect(std::uint16_t port) override { return ConnectTo("127.0.0.1", port); }
-};
-
-std::unique_ptr<TPlatformUnderTest> MakePosix() {
-    SetAnsiCodePage(LoadCodePage(936));
-    return std::make_unique<TPosixUnderTest>();
-}
-
-/// Another process; it runs `body`, whose answer is its exit code.
-class TProcess {
- public:
-    explicit TProcess(const std::function<int()>& body) : FId(::fork()) {
-        if (FId == 0) ::_exit(body());
-    }
-    int ExitCode() {
-        int status = 0;
-        ::waitpid(FId, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-    }
-    void Kill() { ::kill(FId, SIGKILL), ExitCode(); }
-
- private:
-    pid_t FId;
-};
-
-/// A process that makes a mutex, tells by '+' or '-' whether it was the first, and stays.
-class TMutexHolder {
- public:
-    TMutexHolder(const std::string& folder, const std::string& name)
-        : FProcess([&] {
-              TNamedObjects objects(folder);
-              const char answer = objects.CreateMutex(name) ? '+' : '-';
-              if (::write(FPipe.Ends[1], &answer, 1) == 1) ::pause();
-              return 0;
-          }) {
-        if (::read(FPipe.Ends[0], &Answer, 1) != 1) Answer = '?';
-    }
-    ~TMutexHolder() {
-        ::close(FPipe.Ends[0]);
-        ::close(FPipe.Ends[1]);
-    }
-    void Kill() { FProcess.Kill(); }
-    char Answer = '?';
-
- private:
-    struct TPipe {
-        TPipe() {
-            if (::pipe(Ends) != 0) throw Exception("no pipe");
-        }
-        int Ends[2];
-    } FPipe;
-    TProcess FProcess;
-};
+constexpr std::uint32_t Hour = 3600000;
 
 }  // namespace
 
-INSTANTIATE_TEST_SUITE_P(Posix, BoundaryContract, testing::Values(&MakePosix));
-
-TEST(PosixMutexes, ExistAsLongAsTheLastProcessThatHoldsThem) {
+TEST(PosixMutexes, TheirFolderIsOpenToEveryone) {
     const TTemporaryFolder folder;
-    TNamedObjects objects(folder.Path + "/objects");
-    TMutexHolder first(folder.Path + "/objects", "Global\\{A}.1");
-    TMutexHolder second(folder.Path + "/objects", "Global\\{A}.1");
-    EXPECT_EQ(std::string({first.Answer, second.Answer}), "+-");
+    TNamedObjects(folder.Path + "/objects").CreateMutex("Global\\{A}.1");
     EXPECT_EQ(fs::status(folder.Path + "/objects").permissions(), fs::perms::all | fs::perms::sticky_bit);
-    EXPECT_TRUE(objects.OpenMutex("Global\\{A}.1"));
-    first.Kill();
-    EXPECT_TRUE(objects.OpenMutex("Global\\{A}.1"));
-    second.Kill();
-    EXPECT_FALSE(objects.OpenMutex("Global\\{A}.1"));
-    EXPECT_TRUE(objects.CreateMutex("Global\\{A}.1"));
 }
 
 TEST(PosixMutexes, OneOfManyMakesIt) {
@@ -327,27 +213,6 @@ TEST(PosixFiles, ReadOnlyEntriesGoAndFailuresStay) {
     EXPECT_TRUE(fs::exists(tree / "foreign/file"));
 }
 
-TEST(PosixCodePages, Page936IsOneToOne) {
-    const TCodePageTables page = LoadCodePage(936);
-    int characters = 0, userDefined = 0;
-    for (unsigned place = 1; place < 0x10000; ++place) {
-        const char16_t unit = page.ToWide[place];
-        if (!unit) continue;
-        ++characters;
-        userDefined += unit >= 0xE000 && unit < 0xF900;
-        EXPECT_EQ(page.FromWide[unit], place);
-        EXPECT_EQ(place > 0xFF, page.Lead[place > 0xFF ? place >> 8 : place]);
-    }
-    for (unsigned unit = 1; unit < 0x10000; ++unit)
-        EXPECT_TRUE(page.FromWide[unit] == 0 || page.ToWide[page.FromWide[unit]] == unit) << unit;
-    EXPECT_GT(characters, 23000);
-    EXPECT_EQ(userDefined, 6 * 94 + 7 * 94 + 7 * 96);
-    constexpr std::pair<unsigned, char16_t> places[] = {
-        {0xD6D0, u'中'},  {0xD55C, u'誠'},  {0x80, 0x20AC},   {0xAAA1, 0xE000}, {0xAFFE, 0xE233},
-        {0xF8A1, 0xE234}, {0xFEFE, 0xE4C5}, {0xA140, 0xE4C6}, {0xA180, 0xE505}, {0xA7A0, 0xE765}};
-    for (const auto& [place, unit] : places) EXPECT_EQ(page.ToWide[place], unit) << std::hex << place;
-}
-
 TEST(PosixCodePages, OthersAreKnownByTheirNumbers) {
     const struct {
         unsigned Number, Place;
@@ -355,6 +220,7 @@ TEST(PosixCodePages, OthersAreKnownByTheirNumbers) {
         const char* Leads;
     } rows[] = {{1252, 0x80, 0x20AC, ""},
                 {1251, 0xC0, u'А', ""},
+                {1251, 0x98, 0x98, ""},
                 {932, 0x889F, u'亜', "81-9F E0-FC "},
                 {932, 0xB1, u'ｱ', "81-9F E0-FC "},
                 {949, 0xB0A1, u'가', "81-FE "},

@@ -2,9 +2,11 @@
 
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <future>
 #include <map>
 #include <thread>
+#include <vector>
 
 #include "platform/headless/native/HMessageBox.h"
 #include "rtl/Numbers.h"
@@ -12,6 +14,27 @@
 namespace rux::test {
 
 namespace {
+
+/// How the application comes to show a window of the title Box, and how that window goes away again.
+struct TSituation {
+    std::string_view Name;
+    /// The request that sets it off, without options.
+    std::string_view Request;
+    std::vector<std::string_view> Forms;
+    /// Gives the forms their code.
+    std::function<void(TLiveHost&)> Prepare;
+    /// What the journal says when the window comes.
+    std::string_view Shown;
+    /// Ends what the situation began; the call, if it waits, goes on.
+    std::function<void(TLiveHost&)> End;
+    /// The window comes when this much time has passed since the call; 0: during the call.
+    std::uint32_t Delay = 0;
+    /// The window's description.
+    std::string_view Description;
+    /// True, on the user-interface thread, once whoever shows the window has come back from showing it;
+    /// needed where that is another thread.
+    std::function<bool(TLiveHost&)> IsShown = {};
+};
 
 constexpr std::uint32_t Hour = 3600000;
 constexpr std::uint32_t Delay = 10;
@@ -39,13 +62,6 @@ const std::string ChildForm = Form("Child", "Box", std::string("FormStyle = fsMD
 void Elapse(TLiveHost& host, std::uint32_t time) {
     host.Clock().Advance(time);
     host.Desktop().PostMessageA(host.Kit().App().Handle(), WM_NULL, 0, 0);
-}
-
-/// By bytes: these texts are in UTF-8.
-std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-    for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
-        text.replace(at, from.size(), to);
-    return text;
 }
 
 void Box(TLiveHost& host) {
@@ -146,11 +162,11 @@ class TScene {
  public:
     TScene(const TSituation& situation, std::string_view option)
         : FSituation(situation),
-          FRequest(std::string(situation.Request) + std::string(option)),
+          FTexts{std::string(situation.Request) + std::string(option), std::string(situation.Description)},
           FHost(situation.Forms) {
         situation.Prepare(FHost);
         FHost.Kernel().SetGate(false);
-        FAnswer = std::async(std::launch::async, [this] { return FHost.Ask(FRequest); });
+        FAnswer = std::async(std::launch::async, [this] { return FHost.Ask(FTexts.Request); });
     }
 
     std::string Play(char answerTime) {
@@ -190,7 +206,7 @@ class TScene {
         FHost.Kernel().SetGate(true);
         if (phase == FAnswerTime) {
             if (FAnswer.wait_for(std::chrono::seconds(20)) != std::future_status::ready)
-                throw std::runtime_error("no answer to " + FRequest);
+                throw std::runtime_error("no answer to " + FTexts.Request);
             FResult = phase + (" " + Short(FAnswer.get()));
             FNext = Short(FHost.Ask("nothing$Find"));
         } else if (!FResult.empty()) {
@@ -201,45 +217,18 @@ class TScene {
         FHost.Kernel().SetGate(false);
     }
 
-    std::string Url() const { return FRequest; }
-    std::string PictureName() const {
-        std::string name = "Box_" + FRequest + ".jpg";
-        for (char& c : name)
-            if (std::string_view("?/\\:*\"<>|").find(c) != std::string_view::npos) c = '_';
-        return name;
-    }
-    /// The texts of this scene by short names.
-    std::string Short(std::string text) const {
-        const std::string described =
-            std::string(FSituation.Description) + "\r\nPicFileName:/UnExpectWindowPic/" + PictureName();
-        text = Replaced(text, "\r\n\r\n[" + Url() + "]执行异常\r\n" + described, "+carried");
-        text = Replaced(text, described, "window");
-        text = Replaced(text, "\n", " ");
-        return text == "211 成功返回 False" ? "ok" : text;
-    }
+    std::string Short(const std::string& answer) const { return FTexts.Short(answer); }
     std::string Picture() const {
         const auto folder = FHost.Folder() / ("RUX_" + std::to_string(FHost.Port())) / "UnExpectWindowPic";
-        std::string all;
-        for (const auto& entry : std::filesystem::directory_iterator(folder))
-            all += ", " + (entry.path().filename() == PictureName() ? DescribeJpeg(entry.path().string())
-                                                                    : entry.path().filename().string());
-        return Replaced(all, SizeOf(FSituation) + " many", "picture");
+        return FTexts.Pictures(folder, SizeOf(FSituation));
     }
     std::string Stack() {
-        const std::string log = FHost.Log(), sign = " Pop:" + Url() + "\r\n";
-        const std::size_t end = log.find(sign);
-        std::string result = "stays";
-        if (end != log.npos) {
-            const std::size_t begin = log.rfind("StactCount:", end);
-            result = log.substr(begin, end - begin);
-            if (log.find(sign, end + 1) != log.npos) result += " twice";
-        }
         const std::size_t left = FHost.Engine().RequestStack.Count();
-        return result + (left ? ", left " + std::to_string(left) : "");
+        return FTexts.Popped(FHost.Log()) + (left ? ", left " + std::to_string(left) : "");
     }
 
     const TSituation& FSituation;
-    const std::string FRequest;
+    const TSceneTexts FTexts;
     TLiveHost FHost;
     std::future<std::string> FAnswer;
     char FAnswerTime = 'W';
@@ -257,6 +246,8 @@ void CloseBoxes(TLiveHost& host) {
         });
     });
 }
+
+namespace {
 
 const std::vector<TSituation>& Situations() {
     static const std::vector<TSituation> all{
@@ -347,8 +338,20 @@ const std::vector<TSituation>& Situations() {
     return all;
 }
 
-std::string PlayScene(const TSituation& situation, std::string_view option, char answerTime) {
-    return TScene(situation, option).Play(answerTime);
+}  // namespace
+
+std::string WhyNot(std::string_view) {
+    return {};
+}
+
+std::string SeenOf(std::string_view cell) {
+    return std::string(cell);
+}
+
+std::string PlayScene(std::string_view situation, std::string_view option, char answerTime) {
+    for (const TSituation& known : Situations())
+        if (known.Name == situation) return TScene(known, option).Play(answerTime);
+    return "no such situation";
 }
 
 }  // namespace rux::test

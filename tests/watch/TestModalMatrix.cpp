@@ -1,10 +1,9 @@
-// Nine ways of windows to come up against nine ways of asking. Time passes only when a scene says so, and
-// where two threads could both be first it is the user-interface thread.
+// Nine ways of windows to come up against nine ways of asking, whoever plays the scenes.
 #include <gtest/gtest.h>
 
 #include <array>
 
-#include "watch/ModalScene.h"
+#include "watch/Scene.h"
 
 namespace rux::test {
 
@@ -92,11 +91,11 @@ class TModalMatrix : public testing::TestWithParam<int> {};
 
 TEST_P(TModalMatrix, Row) {
     const TRow& row = Matrix[GetParam()];
-    const TSituation& situation = Situations().at(static_cast<std::size_t>(GetParam()));
-    ASSERT_EQ(situation.Name, row.Situation);
+    if (const std::string why = WhyNot(row.Situation); !why.empty())
+        GTEST_SKIP() << row.Situation << ": " << why;
     for (std::size_t i = 0; i < std::size(Options); ++i) {
         SCOPED_TRACE(std::string(row.Situation) + " " + Options[i]);
-        EXPECT_EQ(PlayScene(situation, Options[i], row.Cells[i][0]), row.Cells[i]);
+        EXPECT_EQ(PlayScene(row.Situation, Options[i], row.Cells[i][0]), SeenOf(row.Cells[i]));
     }
 }
 

@@ -15,6 +15,8 @@ namespace {
 constexpr std::uint32_t PageSize = 4096;
 /// Room for one function: prologue, body, return.
 constexpr std::uint32_t SlotSize = 16;
+/// Places of freed functions that rest before the first of them is used again.
+constexpr std::size_t SlotsAtRest = 256;
 /// Behind the last page that is given out there is nothing of the process.
 constexpr TCodeAddress SpaceEnd = 0x7F000000;
 /// Instructions between the start of a call and a body; a circle of jumps has more.
@@ -24,8 +26,17 @@ constexpr std::uint32_t Readable = 0x66, Writable = 0x44, Executable = 0x60;
 
 /// mov edi, edi; push ebp; mov ebp, esp: five bytes, so that a jump takes their place without cutting one.
 constexpr std::array<std::uint8_t, 5> Prologue{0x8B, 0xFF, 0x55, 0x8B, 0xEC};
+constexpr std::uint8_t JumpOpcode = 0xE9;
+/// xor eax, eax; ret
+constexpr std::array<std::uint8_t, 3> AnswerNothing{0x33, 0xC0, 0xC3};
 /// An instruction that no compiler writes stands for the body.
 constexpr std::array<std::uint8_t, 2> BodyMark{0x0F, 0x0B};
+
+/// In any case, and with the ending that libraries have.
+std::string ModuleKey(const std::string& module) {
+    const std::string key = LowerCase(module);
+    return key.empty() || key.find('.') != key.npos ? key : key + ".dll";
+}
 
 [[noreturn]] void Violation(const char* verb, TCodeAddress address) {
     char text[96];
@@ -123,9 +134,9 @@ void HCodeSpace::WriteMemory(TCodeAddress address, const void* bytes, std::size_
 // ---------------------------------------------------------------------------------------------- functions
 
 TCodeAddress HCodeSpace::NewSlot() {
-    if (!FFreeSlots.empty()) {
-        const TCodeAddress slot = FFreeSlots.back();
-        FFreeSlots.pop_back();
+    if (FFreeSlots.size() > SlotsAtRest) {
+        const TCodeAddress slot = FFreeSlots.front();
+        FFreeSlots.pop_front();
         return slot;
     }
     if (FSlotPage == 0 || FSlotsUsed == PageSize / SlotSize) {
@@ -136,8 +147,9 @@ TCodeAddress HCodeSpace::NewSlot() {
     return FSlotPage + static_cast<TCodeAddress>(FSlotsUsed++) * SlotSize;
 }
 
-void HCodeSpace::FreeSlot(TCodeAddress slot) {
+void HCodeSpace::FreeSlot(TCodeAddress slot, std::span<const std::uint8_t> bytes) {
     Put(slot, std::array<std::uint8_t, SlotSize>{});
+    Put(slot, bytes);
     FFreeSlots.push_back(slot);
 }
 
@@ -155,29 +167,61 @@ TCodeAddress HCodeSpace::Make(TCallKind kind, unsigned arguments, TNativeBody bo
 
 TCodeAddress HCodeSpace::MakeFunction(TCallKind kind, unsigned arguments, TNativeBody body) {
     const std::lock_guard lock(FLock);
-    return Make(kind, arguments, std::move(body));
+    return Make(kind, arguments, [this, body = std::move(body)](std::span<const std::uintptr_t> values) {
+        try {
+            return body(values);
+        } catch (const std::exception& error) {
+            ReportError(error);
+        } catch (...) {
+            ReportError(Exception("Unknown exception"));
+        }
+        return std::uintptr_t{0};
+    });
 }
 
-std::shared_ptr<HCodeSpace::TFunction> HCodeSpace::Take(TCodeAddress function) {
+void HCodeSpace::SetReport(TReport report) {
+    const std::lock_guard lock(FLock);
+    FReport = std::move(report);
+}
+
+void HCodeSpace::ReportError(const std::exception& error) {
+    TReport report;
+    {
+        const std::lock_guard lock(FLock);
+        report = FReport;
+    }
+    if (report) report(error);
+}
+
+std::size_t HCodeSpace::FunctionCount() {
+    const std::lock_guard lock(FLock);
+    return FFunctions.size();
+}
+
+std::shared_ptr<HCodeSpace::TFunction> HCodeSpace::Take(TCodeAddress function,
+                                                        std::span<const std::uint8_t> bytes) {
     const auto found = FFunctions.find(function);
     if (found == FFunctions.end()) return nullptr;
     std::shared_ptr<TFunction> gone = std::move(found->second);
     FFunctions.erase(found);
-    FreeSlot(function);
+    FreeSlot(function, bytes);
     return gone;
 }
 
-void HCodeSpace::FreeFunction(TCodeAddress function) {
+void HCodeSpace::FreeFunction(TCodeAddress function, TCodeAddress instead) {
+    std::array<std::uint8_t, 5> jump{JumpOpcode};
+    const TCodeAddress distance = instead - function - 5;
+    std::memcpy(jump.data() + 1, &distance, 4);
     std::shared_ptr<TFunction> gone;
     const std::lock_guard lock(FLock);
-    gone = Take(function);
+    gone = instead ? Take(function, jump) : Take(function, AnswerNothing);
 }
 
 TCodeAddress HCodeSpace::Export(const std::string& module, const std::string& name, TCallKind kind,
                                 unsigned arguments, TNativeBody body) {
     std::shared_ptr<TFunction> gone, unused;
     const std::lock_guard lock(FLock);
-    gone = TakeExport({LowerCase(module), name});
+    gone = TakeExport({ModuleKey(module), name});
     const TCodeAddress function = Make(kind, arguments, std::move(body));
     const TCodeAddress stub = function ? NewSlot() : 0;
     if (stub == 0) {
@@ -190,7 +234,7 @@ TCodeAddress HCodeSpace::Export(const std::string& module, const std::string& na
     std::memcpy(bytes.data() + 2, &memory, 4);
     std::memcpy(bytes.data() + 8, &function, 4);
     Put(stub, bytes);
-    FExports[{LowerCase(module), name}] = {stub, function};
+    FExports[{ModuleKey(module), name}] = {stub, function};
     return function;
 }
 
@@ -206,12 +250,12 @@ std::shared_ptr<HCodeSpace::TFunction> HCodeSpace::TakeExport(const TExportName&
 void HCodeSpace::RemoveExport(const std::string& module, const std::string& name) {
     std::shared_ptr<TFunction> gone;
     const std::lock_guard lock(FLock);
-    gone = TakeExport({LowerCase(module), name});
+    gone = TakeExport({ModuleKey(module), name});
 }
 
 TCodeAddress HCodeSpace::GetProcAddress(const std::string& module, const std::string& name) {
     const std::lock_guard lock(FLock);
-    const auto found = FExports.find({LowerCase(module), name});
+    const auto found = FExports.find({ModuleKey(module), name});
     return found == FExports.end() ? 0 : found->second.Stub;
 }
 
@@ -242,8 +286,11 @@ std::shared_ptr<HCodeSpace::TFunction> HCodeSpace::Follow(TCodeAddress at) {
                 if (function == FFunctions.end()) Violation("Read", at);
                 return function->second;
             }
+            case 0x33C0:  // xor eax, eax
+                if (Byte(at + 2, Executable) != 0xC3) Violation("Read", at);
+                return nullptr;  // ret
             default:
-                if (first != 0xE9) Violation("Read", at);
+                if (first != JumpOpcode) Violation("Read", at);
                 at += 5 + Dword(at + 1, Executable);  // jmp
         }
     }
@@ -253,6 +300,7 @@ std::shared_ptr<HCodeSpace::TFunction> HCodeSpace::Follow(TCodeAddress at) {
 std::uintptr_t HCodeSpace::Call(TCallKind kind, TCodeAddress function,
                                 std::span<const std::uintptr_t> arguments) {
     const std::shared_ptr<TFunction> found = Follow(function);
+    if (!found) return 0;
     // On the real machine a wrong call ruins the stack; here it is told.
     Assert(found->Kind == kind && found->Arguments == arguments.size(), "Called in another way than made");
     return found->Body(arguments);

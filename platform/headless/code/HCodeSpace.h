@@ -2,9 +2,12 @@
 // body, and a call obeys the bytes. So a patched function behaves as on the real machine.
 //
 // A function starts with the usual prologue of a patchable export, and its body is an instruction of its
-// own. An export lies behind a jump through memory, as the window system's exports do.
+// own. An export lies behind a jump through memory, as the window system's exports do. An export raises what
+// its body raises, as the application's own code does; a made function does not.
 #pragma once
 
+#include <deque>
+#include <exception>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -23,6 +26,11 @@ class HCodeSpace final : public TCodeService {
     TCodeAddress Export(const std::string& module, const std::string& name, TCallKind kind,
                         unsigned arguments, TNativeBody body);
     void RemoveExport(const std::string& module, const std::string& name);
+    using TReport = std::function<void(const std::exception&)>;
+    /// Hears what the body of a made function raises, on the calling thread; raises nothing itself.
+    void SetReport(TReport report);
+    /// That were made and not freed, exports among them.
+    std::size_t FunctionCount();
 
     // TCodeService
     TCodeAddress GetProcAddress(const std::string& module, const std::string& name) override;
@@ -34,7 +42,7 @@ class HCodeSpace final : public TCodeService {
     void ReadMemory(TCodeAddress address, void* bytes, std::size_t size) override;
     void WriteMemory(TCodeAddress address, const void* bytes, std::size_t size) override;
     TCodeAddress MakeFunction(TCallKind kind, unsigned arguments, TNativeBody body) override;
-    void FreeFunction(TCodeAddress function) override;
+    void FreeFunction(TCodeAddress function, TCodeAddress instead = 0) override;
     std::uintptr_t Call(TCallKind kind, TCodeAddress function,
                         std::span<const std::uintptr_t> arguments) override;
 
@@ -59,13 +67,15 @@ class HCodeSpace final : public TCodeService {
     void Put(TCodeAddress address, std::span<const std::uint8_t> bytes);
     TCodeAddress NewPages(std::size_t size, std::uint32_t protection);
     TCodeAddress NewSlot();
-    void FreeSlot(TCodeAddress slot);
+    /// What calls of it do until it is used again; nothing but a violation without bytes.
+    void FreeSlot(TCodeAddress slot, std::span<const std::uint8_t> bytes = {});
     TCodeAddress Make(TCallKind kind, unsigned arguments, TNativeBody body);
     /// Takes a function or an export out. What is answered is to be freed without the lock: a body may own
     /// what locks.
-    std::shared_ptr<TFunction> Take(TCodeAddress function);
+    std::shared_ptr<TFunction> Take(TCodeAddress function, std::span<const std::uint8_t> bytes = {});
     std::shared_ptr<TFunction> TakeExport(const TExportName& name);
-    /// Obeys the instructions from there to the body that they lead to.
+    void ReportError(const std::exception& error);
+    /// Obeys the instructions from there to the body that they lead to; nil where they end without one.
     std::shared_ptr<TFunction> Follow(TCodeAddress at);
 
     std::recursive_mutex FLock;
@@ -74,7 +84,8 @@ class HCodeSpace final : public TCodeService {
     TCodeAddress FNextPage = 0x10000000;
     TCodeAddress FSlotPage = 0;
     std::size_t FSlotsUsed = 0;
-    std::vector<TCodeAddress> FFreeSlots;
+    std::deque<TCodeAddress> FFreeSlots;
+    TReport FReport;
     std::map<TCodeAddress, std::shared_ptr<TFunction>> FFunctions;
     std::map<TExportName, TExport> FExports;
 };

@@ -20,23 +20,39 @@ TRect Moved(const TRect& r, TPoint by) {
             OnScreen(std::int64_t{r.Right} + by.X), OnScreen(std::int64_t{r.Bottom} + by.Y)};
 }
 
+/// Those that a window comes to the top by, and becomes the active one.
+bool Activates(int command) {
+    switch (command) {
+        case SW_SHOWNORMAL:
+        case SW_SHOWMINIMIZED:
+        case SW_SHOWMAXIMIZED:
+        case SW_SHOW:
+        case SW_RESTORE:
+        case SW_SHOWDEFAULT:
+            return true;
+        default:
+            return false;
+    }
+}
+
 }  // namespace
 
 HDesktop::HDesktop(TKernelService& kernel, TClockService& clock, HCodeSpace& code)
     : FKernel(kernel), FClock(clock), FCode(code), FThread(kernel.GetCurrentThreadId()), FQueue(kernel) {
     ExportFunctions();
+    // Made functions run on any thread, the report on its own.
+    FCode.SetReport([this](const std::exception& error) {
+        RunOnOwner([&] {
+            if (FReport) FReport(error);
+        });
+    });
 }
 
 void HDesktop::ExportFunctions() {
     const auto show = [this](std::span<const std::uintptr_t> arguments) -> std::uintptr_t {
-        const HWnd window = arguments[0];
-        const bool visible = static_cast<int>(arguments[1]) != SW_HIDE;
         bool before = false;
-        RunOnOwner([&] {
-            const HWindow* found = FTable.Find(window);
-            before = found && found->Visible();
-            SetWindowVisible(window, visible);
-        });
+        const bool own = OnOwnerThread();
+        RunOnOwner([&] { before = ShowNow(arguments[0], static_cast<int>(arguments[1]), own); });
         return before;
     };
     FCode.Export("user32.dll", "ShowWindow", TCallKind::StdCall, 2, show);
@@ -47,6 +63,7 @@ void HDesktop::ExportFunctions() {
 }
 
 HDesktop::~HDesktop() {
+    FCode.SetReport(nullptr);
     Quit();
     FQueue.Close();
     while (!FTopLevel.empty()) DestroyWindow(FTopLevel.back()->Handle);
@@ -157,6 +174,18 @@ void HDesktop::Remove(HWnd handle) {
 bool HDesktop::ShowWindow(HWnd handle, TShowCommand command) {
     const std::uintptr_t arguments[] = {handle, static_cast<std::uintptr_t>(command)};
     return FCode.Call(TCallKind::StdCall, FShowWindow, arguments) != 0;
+}
+
+bool HDesktop::ShowNow(HWnd handle, int command, bool onOwnThread) {
+    const HWindow* window = FTable.Find(handle);
+    if (!window) return false;
+    const bool before = window->Visible(), child = window->IsChild();
+    SetWindowVisible(handle, command != SW_HIDE);
+    if (before || child || !Activates(command)) return before;
+    BringWindowToTop(handle);
+    // Only a thread's own windows are activated by it.
+    if (onOwnThread) SetActiveWindow(handle);
+    return before;
 }
 
 void HDesktop::SetWindowVisible(HWnd handle, bool visible) {

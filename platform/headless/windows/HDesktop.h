@@ -46,8 +46,9 @@ class HDesktop final : public TWindowService {
     HWnd CreateWindowA(const HCreateParams& params);
     void DestroyWindow(HWnd window);
     HWindow* Find(HWnd window) const { return FTable.Find(window); }
-    /// Calls the export of that name, which others may have patched. Answers whether the window was visible.
-    /// Any thread: from another one it waits until the owner's loop has shown it.
+    /// Calls the export of that name, which others may have patched. Answers whether the window was visible;
+    /// a top-level one that was not comes to the top and is activated, as far as the command wants that. Any
+    /// thread: from another one it waits until the owner's loop has shown it, and nothing is activated.
     bool ShowWindow(HWnd window, TShowCommand command);
     /// Shows or hides without that call, as windows do that change their state themselves.
     void SetWindowVisible(HWnd window, bool visible);
@@ -165,6 +166,8 @@ class HDesktop final : public TWindowService {
 
     LResult CallTarget(HWnd window, unsigned message, WParam wParam, LParam lParam);
     void ExportFunctions();
+    /// What the export does.
+    bool ShowNow(HWnd window, int command, bool onOwnThread);
     /// False when there were none.
     bool RunSentMessages();
     bool NextMessage(TMessage& message);
@@ -176,6 +179,11 @@ class HDesktop final : public TWindowService {
     template <class Code>
     void Report(Code code);
 
+    /// The ancestor itself, or a window that stands on it; False for no window.
+    bool IsWithin(HWnd window, const HWindow* ancestor) const {
+        const HWindow* found = FTable.Find(window);
+        return found && ancestor && found->IsWithin(*ancestor);
+    }
     std::vector<HWindow*>& Siblings(const HWindow& window);
     void Place(HWindow& window);
     void Raise(HWindow& window);

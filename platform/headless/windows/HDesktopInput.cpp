@@ -9,12 +9,6 @@ namespace rux {
 
 namespace {
 
-bool IsWithin(const HWindow* window, const HWindow* ancestor) {
-    for (; window; window = window->Parent)
-        if (window == ancestor) return true;
-    return false;
-}
-
 /// The character of a key on the usual keyboard; 0 for a key that has none.
 char CharacterOf(unsigned key, bool shift) {
     // The keys 186 to 192 and 219 to 222, and the row of digits.
@@ -56,7 +50,8 @@ bool HDesktop::SetFocus(HWnd handle) {
 
 HWnd HDesktop::SetActiveWindow(HWnd handle) {
     const HWindow* window = FTable.Find(handle);
-    if (!window || window->IsChild() || !window->Enabled() || !window->Visible()) return 0;
+    if (!window) return 0;
+    if (window->IsChild()) return FActive;
     const HWnd old = std::exchange(FActive, handle);
     if (old == handle) return old;
     BringWindowToTop(handle);
@@ -65,7 +60,7 @@ HWnd HDesktop::SetActiveWindow(HWnd handle) {
     Notify(handle, WM_ACTIVATE, 1, static_cast<LParam>(old));
     // A window whose procedure gave the focus to none of its children takes it itself.
     window = FTable.Find(handle);
-    if (window && FActive == handle && !IsWithin(FTable.Find(FFocus), window)) SetFocus(handle);
+    if (window && FActive == handle && !IsWithin(FFocus, window)) SetFocus(handle);
     return old;
 }
 
@@ -91,8 +86,8 @@ void HDesktop::ActivateNext(HWnd leaving) {
 void HDesktop::DropInput(HWnd handle) {
     const HWindow* window = FTable.Find(handle);
     if (!window) return;
-    if (IsWithin(FTable.Find(FCapture), window)) SetCapture(0);
-    if (IsWithin(FTable.Find(FFocus), FTable.Find(handle))) SetFocus(0);
+    if (IsWithin(FCapture, window)) SetCapture(0);
+    if (IsWithin(FFocus, FTable.Find(handle))) SetFocus(0);
 }
 
 void HDesktop::SetCapture(HWnd window) {

@@ -4,6 +4,7 @@
 #include "platform/headless/HLimits.h"
 #include "platform/headless/windows/HDesktop.h"
 #include "platform/headless/windows/HMessageNames.h"
+#include "rtl/CodePage.h"
 #include "rtl/Exceptions.h"
 #include "rtl/Text.h"
 
@@ -13,6 +14,15 @@ namespace {
 
 /// Base of the numbers that stand for a window's own target as a procedure.
 constexpr TWndProc TargetProcBase = TWndProc{1} << 33;
+
+/// Bytes of the text that a buffer of `room` takes without cutting a character.
+std::size_t WholeCharacters(const std::string& text, std::size_t room) {
+    if (text.size() <= room) return text.size();
+    TTextCursor step(text);
+    std::size_t end = 0;
+    for (; !step.AtEnd() && step.Pos() <= room; step.Next()) end = step.Pos();
+    return end;
+}
 
 }  // namespace
 
@@ -88,7 +98,10 @@ bool HDesktop::PostMessageA(HWnd window, unsigned message, WParam wParam, LParam
 }
 
 bool HDesktop::PeekMessageA(TMessage& message, HWnd window, unsigned first, unsigned last) {
-    const std::optional<TMessage> found = FQueue.TakeOf(window, first, last);
+    const HWindow* top = FTable.Find(window);
+    if (!top) return false;
+    const std::optional<TMessage> found = FQueue.TakeOf(
+        [&](const TMessage& m) { return m.Number >= first && m.Number <= last && IsWithin(m.Window, top); });
     if (found) message = *found;
     return found.has_value();
 }
@@ -157,7 +170,7 @@ LResult HDesktop::DefWindowProc(HWnd handle, unsigned message, WParam wParam, LP
     switch (message) {
         case WM_GETTEXT: {
             if (wParam == 0) return 0;
-            const std::size_t count = std::min<std::size_t>(window->Text.size(), wParam - 1);
+            const std::size_t count = WholeCharacters(window->Text, wParam - 1);
             char* buffer = reinterpret_cast<char*>(lParam);
             std::copy_n(window->Text.begin(), count, buffer);
             buffer[count] = 0;

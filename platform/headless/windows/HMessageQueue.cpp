@@ -32,11 +32,9 @@ std::optional<TMessage> HMessageQueue::TakeInput() {
     return TakeFrom(FInput);
 }
 
-std::optional<TMessage> HMessageQueue::TakeOf(HWnd window, unsigned first, unsigned last) {
+std::optional<TMessage> HMessageQueue::TakeOf(const std::function<bool(const TMessage&)>& fits) {
     const std::lock_guard lock(FLock);
-    const auto found = std::find_if(FPosted.begin(), FPosted.end(), [&](const TMessage& m) {
-        return m.Window == window && m.Number >= first && m.Number <= last;
-    });
+    const auto found = std::find_if(FPosted.begin(), FPosted.end(), fits);
     if (found == FPosted.end()) return std::nullopt;
     const TMessage message = *found;
     FPosted.erase(found);

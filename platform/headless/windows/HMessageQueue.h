@@ -26,8 +26,8 @@ class HMessageQueue {
     std::optional<TMessage> Take();
     /// The next input, once nothing is posted any more.
     std::optional<TMessage> TakeInput();
-    /// The first posted message of `window` within the range.
-    std::optional<TMessage> TakeOf(HWnd window, unsigned first, unsigned last);
+    /// The first posted message that fits.
+    std::optional<TMessage> TakeOf(const std::function<bool(const TMessage&)>& fits);
     /// Drops posted messages, such as those for a window that is gone.
     void Forget(const std::function<bool(const TMessage&)>& which);
     bool Empty();

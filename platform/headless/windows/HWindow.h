@@ -73,6 +73,12 @@ struct HWindow {
         while (top->Parent) top = top->Parent;
         return *top;
     }
+    /// It is that window or stands on it.
+    bool IsWithin(const HWindow& ancestor) const {
+        const HWindow* step = this;
+        while (step && step != &ancestor) step = step->Parent;
+        return step != nullptr;
+    }
     TPoint ClientOrigin() const { return {Rect.Left + Insets.Left, Rect.Top + Insets.Top}; }
     TRect ClientRect() const {
         return {0, 0, Rect.Width() - Insets.Left - Insets.Right, Rect.Height() - Insets.Top - Insets.Bottom};

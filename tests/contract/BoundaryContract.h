@@ -12,26 +12,45 @@
 #include "platform/FileService.h"
 #include "platform/KernelService.h"
 #include "platform/SocketService.h"
+#include "rtl/CodePage.h"
+#include "rtl/Dates.h"
 
 namespace rux::test {
 
-inline constexpr std::uint32_t Hour = 3600000;
+/// Another process, which has made a mutex and stays until this object goes: then it ends at once, whatever
+/// it is doing.
+class TMutexHolder {
+ public:
+    virtual ~TMutexHolder() = default;
+    /// Whether it was the first to make it.
+    virtual bool Made() const = 0;
+};
 
-/// Services over a clock that the test moves. Code page 936 is set.
+/// Services over a clock that the test moves, or that moves itself. The system's code page is set.
 class TPlatformUnderTest {
  public:
     TPlatformUnderTest(TKernelService& kernel, TSocketService& sockets, TFileService& files)
         : Kernel(kernel), Sockets(sockets), Files(files) {}
     virtual ~TPlatformUnderTest() = default;
+    /// Milliseconds of a wait that shall run out, and how much earlier it surely still lasts.
+    virtual std::uint32_t Long() const = 0;
+    virtual std::uint32_t Margin() const = 0;
     virtual std::uint64_t Tick() = 0;
+    /// Lets so much time pass.
     virtual void Advance(std::uint64_t milliseconds) = 0;
+    /// Returns when so many threads wait with a deadline of `notBefore` or later, as far as can be told.
     virtual void WaitUntilWaiters(std::size_t count, std::uint64_t notBefore) = 0;
     virtual void WaitForAllThreads() = 0;
     /// An empty folder of this object's own.
     virtual std::string Folder() const = 0;
+    virtual void MakeReadOnly(const std::string& name) = 0;
     virtual void PublishMapping(const std::string& name, std::string_view bytes) = 0;
+    virtual void RemoveMapping(const std::string& name) = 0;
+    virtual std::unique_ptr<TMutexHolder> HoldMutex(const std::string& name) = 0;
     /// The other end of a new connection; INVALID_SOCKET when nobody listens.
     virtual TSocketHandle Connect(std::uint16_t port) = 0;
+    /// The user's regional settings.
+    virtual TLocaleFacts Locale() const = 0;
 
     TKernelService& Kernel;
     TSocketService& Sockets;
@@ -64,12 +83,16 @@ class BoundaryContract : public testing::TestWithParam<TPlatformFactory> {
 
     /// A socket that listens on a free port, which `port` gets.
     std::unique_ptr<TTCPBlockSocket> Listener(std::uint16_t& port);
+    /// Two characters that the code page has and ASCII lacks. In page 936 the last byte of both is that of a
+    /// backslash.
+    static std::string OddName() { return Ansi(AnsiCodePage() == 936 ? "誠錦" : "é€"); }
     struct TConnection {
         std::unique_ptr<TTCPBlockSocket> Socket, Peer;
     };
     TConnection Connection();
 
     std::unique_ptr<TPlatformUnderTest> Platform = GetParam()();
+    const std::uint32_t Long = Platform->Long(), Margin = Platform->Margin();
     TKernelService& Kernel = Platform->Kernel;
     TSocketService& Sockets = Platform->Sockets;
     TFileService& Files = Platform->Files;

@@ -2,7 +2,7 @@
 #include <set>
 #include <vector>
 
-#include "BoundaryContract.h"
+#include "contract/BoundaryContract.h"
 #include "rtl/Exceptions.h"
 #include "rtl/Stack.h"
 
@@ -28,11 +28,11 @@ TEST_P(BoundaryContract, AnEventKeepsOneSignalForOneWaiter) {
     EXPECT_EQ(event->WaitFor(WaitForever), Signalled);
     EXPECT_EQ(event->WaitFor(0), TimedOut);
 
-    const auto wait = [&] { return event->WaitFor(Hour); };
+    const auto wait = [&] { return event->WaitFor(Long); };
     TBackground<TWaitResult> one(Kernel, wait), other(Kernel, wait);
     Platform->WaitUntilWaiters(2, 0);
     event->SetEvent();
-    Platform->Advance(Hour);
+    Platform->Advance(Long);
     EXPECT_EQ((std::multiset{one.Result(), other.Result()}), (std::multiset{Signalled, TimedOut}));
 }
 
@@ -49,7 +49,7 @@ TEST_P(BoundaryContract, AnEventMayBeFreedByWhomItWakes) {
     }
 }
 
-TEST_P(BoundaryContract, EveryKindOfWaitTakesItsHourFromTheClock) {
+TEST_P(BoundaryContract, EveryKindOfWaitTakesItsTimeFromTheClock) {
     std::uint16_t port = 0;
     const auto listener = Listener(port);
     TConnection line = Connection(), block = Connection();
@@ -57,19 +57,19 @@ TEST_P(BoundaryContract, EveryKindOfWaitTakesItsHourFromTheClock) {
     const auto sleeper = Kernel.StartThread([&] { gate->WaitFor(WaitForever); });
     char bytes[4];
     const std::function<int()> waits[] = {
-        [&] { return static_cast<int>(event->WaitFor(Hour)); },
-        [&] { return static_cast<int>(sleeper->WaitFor(Hour)); },
-        [&] { return Kernel.Sleep(Hour), 5; },
-        [&] { return listener->CanRead(Hour) ? 1 : listener->LastError(); },
-        [&] { return line.Socket->RecvString(Hour, 10), line.Socket->LastError(); },
-        [&] { return block.Socket->RecvBufferEx(bytes, 4, Hour), block.Socket->LastError(); }};
+        [&] { return static_cast<int>(event->WaitFor(Long)); },
+        [&] { return static_cast<int>(sleeper->WaitFor(Long)); },
+        [&] { return Kernel.Sleep(Long), 5; },
+        [&] { return listener->CanRead(Long) ? 1 : listener->LastError(); },
+        [&] { return line.Socket->RecvString(Long, 10), line.Socket->LastError(); },
+        [&] { return block.Socket->RecvBufferEx(bytes, 4, Long), block.Socket->LastError(); }};
     std::vector<std::unique_ptr<TBackground<int>>> running;
     for (const auto& wait : waits) running.push_back(std::make_unique<TBackground<int>>(Kernel, wait));
-    Platform->WaitUntilWaiters(std::size(waits), Hour);
-    Platform->Advance(Hour - 1);
-    Platform->WaitUntilWaiters(std::size(waits), Hour);
+    Platform->WaitUntilWaiters(std::size(waits), Long);
+    Platform->Advance(Long - Margin);
+    Platform->WaitUntilWaiters(std::size(waits), Long);
     for (const auto& wait : running) EXPECT_FALSE(wait->Ended());
-    Platform->Advance(1);
+    Platform->Advance(Margin);
     std::vector<int> results;
     for (const auto& wait : running) results.push_back(wait->Result());
     const int timedOut = static_cast<int>(TimedOut);
@@ -99,9 +99,10 @@ TEST_P(BoundaryContract, WhatLeavesABodyEndsThatThreadOnly) {
     EXPECT_EQ(Kernel.StartThread([] { throw Exception("x"); })->WaitFor(WaitForever), Signalled);
     EXPECT_EQ(Kernel.StartThread([] { throw 1; })->WaitFor(WaitForever), Signalled);
     std::atomic<int> done{0};
-    const auto gate = Kernel.CreateEventA();
+    const auto begun = Kernel.CreateEventA(), gate = Kernel.CreateEventA();
     // The handle is dropped at once.
-    Kernel.StartThread([&] { gate->WaitFor(WaitForever), ++done; });
+    Kernel.StartThread([&] { begun->SetEvent(), gate->WaitFor(WaitForever), ++done; });
+    begun->WaitFor(WaitForever);
     gate->SetEvent();
     Platform->WaitForAllThreads();
     EXPECT_EQ(done, 1);
@@ -137,15 +138,51 @@ TEST_P(BoundaryContract, MutexesAreFoundByTheirWholeName) {
     EXPECT_FALSE(Kernel.CreateMutexA(std::string(300, '\\')));
 }
 
+TEST_P(BoundaryContract, AMutexIsThereAsLongAsTheLastProcessThatHoldsIt) {
+    const std::string name = "{CB35D3B5-7016}.4441";
+    auto first = Platform->HoldMutex(name), second = Platform->HoldMutex(name);
+    EXPECT_TRUE(first->Made() && !second->Made());
+    EXPECT_TRUE(Kernel.OpenMutexA(name));
+    first.reset();
+    EXPECT_TRUE(Kernel.OpenMutexA(name));
+    second.reset();
+    EXPECT_FALSE(Kernel.OpenMutexA(name));
+    EXPECT_TRUE(Kernel.CreateMutexA(name));
+    EXPECT_FALSE(Platform->HoldMutex(name)->Made());
+}
+
 TEST_P(BoundaryContract, AMappingGivesItsFirstBytes) {
     const std::string name = "RUX.{09491275-8671}.77", bytes("\1\0\0\0\2\0\0\0\3\0\0\0rest", 16);
+    constexpr std::size_t page = 4096;
     EXPECT_EQ(Kernel.ReadFileMapping(name, 12), std::nullopt);
     Platform->PublishMapping(name, bytes);
+    EXPECT_EQ(Kernel.ReadFileMapping(name, 0), "");
     EXPECT_EQ(Kernel.ReadFileMapping(name, 12), bytes.substr(0, 12));
     EXPECT_EQ(Kernel.ReadFileMapping(name, 16), bytes);
-    EXPECT_EQ(Kernel.ReadFileMapping(name, 17), std::nullopt);
+    EXPECT_EQ(Kernel.ReadFileMapping(name, page), bytes + std::string(page - 16, '\0'));
+    EXPECT_EQ(Kernel.ReadFileMapping(name, page + 1), std::nullopt);
     EXPECT_EQ(Kernel.ReadFileMapping(name, SIZE_MAX), std::nullopt);
     EXPECT_EQ(Kernel.ReadFileMapping(name + "8", 12), std::nullopt);
+    EXPECT_EQ(Kernel.ReadFileMapping(name + std::string("\0x", 2), 12), std::nullopt);
+    Platform->RemoveMapping(name);
+    EXPECT_EQ(Kernel.ReadFileMapping(name, 12), std::nullopt);
+}
+
+TEST_P(BoundaryContract, AMappingMayVanishWhileItIsRead) {
+    const std::string name = "RUX.{09491275-8671}.78", bytes(1000, 'x');
+    std::atomic<bool> stop{false};
+    TBackground<int> reader(Kernel, [&] {
+        int strange = 0;
+        while (!stop)
+            strange += Kernel.ReadFileMapping(name, bytes.size()).value_or(bytes).size() != bytes.size();
+        return strange;
+    });
+    for (int i = 0; i < 300; ++i) {
+        Platform->PublishMapping(name, bytes);
+        Platform->RemoveMapping(name);
+    }
+    stop = true;
+    EXPECT_EQ(reader.Result(), 0);
 }
 
 }  // namespace rux::test

@@ -3,15 +3,20 @@ include(GoogleTest)
 # No binary package of it exists for this compiler.
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 
-# One program and one test: what starts a program here takes longer than most of what it tests.
+# One program, and one test for each code page: what starts a program here takes longer than most of what it tests. The
+# locale's name decides the page.
 function(rux_windows_suite name)
   cmake_parse_arguments(PARSE_ARGV 1 suite "" "" "SOURCES;LIBRARIES")
   file(GLOB sources CONFIGURE_DEPENDS ${suite_SOURCES})
   add_executable(test_${name} ${sources})
   target_include_directories(test_${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(test_${name} PRIVATE ${suite_LIBRARIES} gtest_main)
-  add_test(NAME ${name} COMMAND test_${name})
-  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+  foreach(row 936=zh_CN.UTF-8 1252=C.UTF-8)
+    string(REGEX MATCH "^(.*)=(.*)$" row ${row})
+    set(test ${name}_${CMAKE_MATCH_1})
+    add_test(NAME ${test} COMMAND test_${name})
+    set_tests_properties(${test} PROPERTIES TIMEOUT 300 ENVIRONMENT WINE_RUN_LANG=${CMAKE_MATCH_2})
+  endforeach()
 endfunction()
 
 rux_windows_suite(contract SOURCES contract/*.cpp contract/win32/*.cpp LIBRARIES rux_engine rux_win32)

@@ -90,9 +90,17 @@ bool SizeOf(const TRect& place, int& width, int& height) {
     return true;
 }
 
+/// No more than one colour besides the black that the surface had before: a background, and a frame that was
+/// left out.
 bool IsFlat(const TBitmap& picture) {
-    return std::adjacent_find(picture.Pixels.begin(), picture.Pixels.end(), std::not_equal_to<>()) ==
-           picture.Pixels.end();
+    const TColor black;
+    const TColor* only = nullptr;
+    for (const TColor& pixel : picture.Pixels) {
+        if (pixel == black) continue;
+        if (!only) only = &pixel;
+        if (pixel != *only) return false;
+    }
+    return true;
 }
 
 /// What stands on the screen of the window alone.
@@ -125,7 +133,7 @@ bool PictureOfWindow(HWND window, TBitmap& picture) {
         made = surface.Picture();
     }
     // There are windows that cannot be told where to draw: they paint on the screen alone, or past the
-    // system's drawing, and their picture has one colour all over. What is on the screen is the better
+    // system's drawing, and their picture is flat. What is on the screen is the better
     // picture then.
     if (IsFlat(made) && ::IsWindowVisible(window)) {
         TBitmap shown = ShownPicture(window, width, height);

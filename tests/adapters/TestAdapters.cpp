@@ -117,7 +117,7 @@ TEST_F(TAdapterTest, FormTellsWhatStandsOnIt) {
     for (const char* name : {"Edit1", "Fixed", "Off", "Memo", "Check1"}) Find(name)->Free();
     EXPECT_EQ(
         Run("F.Close; F.GetInfo"),
-        "; One form\r\nTStaticText:Standing\r\nTPanel:Box\r\nother:native\r\nTButton:&Do it\r\nTEdit:first");
+        "; One form\r\nTStaticText:Standing\r\nTPanel:Box\r\nTButton:&Do it\r\nother:native\r\nTEdit:first");
 }
 
 TEST_F(TAdapterTest, KeysReachTheWindowThatIsNamed) {

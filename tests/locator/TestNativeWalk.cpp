@@ -225,7 +225,7 @@ TEST_F(TNativeWalkTest, WhatAFinderTells) {
     Engine.VirtualClasses->Register<TVirtualThing>();
     TVirtualWindow again(top);
     EXPECT_EQ(again.GetChildCount(), 4);
-    EXPECT_EQ(VirtualCast<TVirtualThing>(again.GetChild(0)).Handle(), below);
+    EXPECT_EQ(VirtualCast<TVirtualThing>(again.GetChild(3)).Handle(), below);
     EXPECT_EQ(Failure([&] { Engine.VirtualClasses->Register<TVirtualThing>(); }),
               "Assertion failure (Engine/Virtual/RUXVirtualControls.cpp");
     Engine.RequestStack.Clear();

@@ -152,7 +152,7 @@ TEST_F(TNativeTree, NodesRowsAndSelection) {
     }
     EXPECT_EQ(Notes(),
               "1 A B C; 0 A B C; 1 A A0 A1 A2; 1 A2 A3 B C; 0 A2 A3 B C; 1 A B C; 1 A A0 A1 A11; "
-              "1 A0 A1 A11 A2; 9/-402 0>5; 1 A0 A1 A11 A2*; 1 A0 A1 A11 A2*; 1 A0 A1 A2* A3; "
+              "1 A0 A1 A11 A2; 9/-402 0>7; 9/-402 7>5; 1 A0 A1 A11 A2*; 1 A0 A1 A11 A2*; 1 A0 A1 A2* A3; "
               "1 A0 A1 A11 A2*; 9/-402 5>8; 1 A0 A1 A11* A2; 9/-402 8>1; 1 A* B C; 1 A* B C; "
               "9/-402 1>0; 1 A B C; 9/-402 0>7; 1 A A0* A1 A11");
     TRect text, line;

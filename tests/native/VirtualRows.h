@@ -40,8 +40,8 @@ inline std::vector<TVirtualRow> VirtualRows() {
         {"原生/保存>?TVirtualButton$Find", "211\nFalse"},
         {"保存_?TVirtualEdit$GetText", "211\n新文", read("Edit", 5)},
         {"Button$Find",
-         "516\nButton找到了3个符合条件的控件，它们分别是：\r\n类名: TVirtualButton 标题：深处 内容："
-         "\r\n类名: TVirtualButton 标题：保 存 内容：\r\n类名: TVirtualButton 标题：停用 内容："},
+         "516\nButton找到了3个符合条件的控件，它们分别是：\r\n类名: TVirtualButton 标题：保 存 内容："
+         "\r\n类名: TVirtualButton 标题：停用 内容：\r\n类名: TVirtualButton 标题：深处 内容："},
         // What is searched, and what is not.
         {"孤儿$Find", "211\nFalse"},
         {"画布$Find", "211\nFalse"},
@@ -57,8 +57,8 @@ inline std::vector<TVirtualRow> VirtualRows() {
         {"原生$DbClick", "517\n当前控件不支持鼠标双击方法."},
         // Paths in a tree.
         {"SysTreeView32$GetCount", "211\n7", "count0"},
-        // A real tree selects its first node when it gets the focus.
-        {"?TreeView$Selected", "211", "focus ^0", true},
+        // A tree selects its first node when it gets the focus.
+        {"?TreeView$Selected", "211\na", "focus ^0 t1"},
         {"?TVirtualTreeView$Select(A/c)", "212", go + "t1 " + toC.substr(go.size()) + " show3 select3"},
         {"?TreeView$Selected", "211\nc", "focus ^0 t3"},
         {"?TreeView$GetText", "211\nc", "focus ^0 t3"},
@@ -79,8 +79,8 @@ inline std::vector<TVirtualRow> VirtualRows() {
         {"?TreeView$Click(x)", noNode + "x", all + " rect0"},
         // A window itself.
         {"原生$GetInfo",
-         "211\n原生\r\nother:画布\r\nother:深处\r\nother:保 存\r\nother:停用\r\nother:新文\r\nother:标签\r\n"
-         "other:第二\r\nTPanel:面板"},
+         "211\n原生\r\nother:保 存\r\nother:停用\r\nother:新文\r\nother:标签\r\n"
+         "other:第二\r\nother:画布\r\nother:深处\r\nTPanel:面板"},
         {"原生$Active", "212", "focus"},
         {"原生$Close", "212", "send #32770 WM_CLOSE 0 0; close #32770 原生"},
         {"原生$Find", "211\nFalse"},

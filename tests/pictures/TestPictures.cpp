@@ -270,8 +270,10 @@ TEST_F(TPictureTest, AWindowIsCutByWhatItStandsOn) {
     const HWnd edit = Native("Edit", middle, {5, 5, 100, 100});
     EXPECT_EQ(Difference(before, Print(parent)), (TRect{15, 15, 30, 30}));
     EXPECT_EQ(Print(edit).Width, 95) << "its own picture is whole";
-    // Siblings: the later one lies above.
+    // Siblings: a new one lies below the others.
     const HWnd over = Native("#32770", parent, {12, 12, 40, 40});
+    EXPECT_NE(Print(parent).At(20, 20), Print(over).At(5, 5));
+    Screen.SetWindowOrder(over, 1);
     EXPECT_EQ(Print(parent).At(20, 20), Print(over).At(5, 5));
 }
 

@@ -39,14 +39,6 @@ constexpr TNativeClass Classes[] = {
     {"SysTreeView32", Make<HNativeTree>},
 };
 
-/// One below the lowest of the parent's children; 0 would be the system's choice.
-std::int64_t LowestOrder(const HDesktop& desktop, HWnd parent) {
-    const HWindow* above = desktop.Find(parent);
-    if (!above || above->Children.empty()) return 0;
-    const std::int64_t order = above->Children.front()->Order - 1;
-    return order == 0 ? -1 : order;
-}
-
 }  // namespace
 
 HWnd CreateNativeWindow(HDesktop& desktop, std::string_view className, const std::string& text,
@@ -61,9 +53,7 @@ HWnd CreateNativeWindow(HDesktop& desktop, std::string_view className, const std
     params.Parent = parent;
     params.Rect = rect;
     params.OwnedTarget = found->Make(desktop, id);
-    if (style & WS_CHILD)
-        params.Order = LowestOrder(desktop, parent);
-    else if (found == Classes)
+    if (!(style & WS_CHILD) && found == Classes)
         params.Insets = {HFixedFrame, HFixedFrame + HCaptionHeight, HFixedFrame, HFixedFrame};
     return desktop.CreateWindowA(params);
 }

@@ -47,6 +47,11 @@ LResult HNativeTree::WndProc(HWnd handle, unsigned message, WParam wParam, LPara
         case WM_LBUTTONUP:
         case WM_LBUTTONDBLCLK:
             return HandleMouse(*window, message, PointOfParam(lParam));
+        case WM_SETFOCUS:
+            // Who comes to a tree with the keyboard is to stand somewhere.
+            if (FCaret == 0 && !FNodes.Rows().empty())
+                Select(*window, FNodes.Rows()[static_cast<std::size_t>(TopRow(*window))]);
+            return HNativeWindow::WndProc(handle, message, wParam, lParam);
         case WM_CANCELMODE:
         case WM_KILLFOCUS:
             FPressed = 0;

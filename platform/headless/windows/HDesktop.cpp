@@ -105,7 +105,9 @@ HWnd HDesktop::CreateWindowA(const HCreateParams& params) {
 
 void HDesktop::Place(HWindow& window) {
     std::vector<HWindow*>& row = window.Parent->Children;
-    if (window.Order == 0) window.Order = row.empty() ? 1 : row.back()->Order;
+    // One without a place of its own comes below all others, as the system puts it.
+    if (window.Order == 0 && !row.empty()) window.Order = row.front()->Order - 1;
+    if (window.Order == 0) window.Order = -1;
     const auto below = [](std::int64_t order, const HWindow* other) { return order < other->Order; };
     row.insert(std::upper_bound(row.begin(), row.end(), window.Order, below), &window);
 }

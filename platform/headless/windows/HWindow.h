@@ -96,7 +96,7 @@ struct HCreateParams {
     /// In the parent's client area for child windows, else on the screen.
     TRect Rect;
     HInsets Insets;
-    /// Place of a child window among its siblings; of equal ones the newest stands on top.
+    /// Place of a child window among its siblings, of equal ones the newest on top; 0: below all of them.
     std::int64_t Order = 0;
     HWindowTarget* Target = nullptr;
     /// Set when the window is to own its target.

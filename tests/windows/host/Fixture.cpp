@@ -45,7 +45,6 @@ void AddCanvas(HWND dialog) {
     RegisterClassA(&type);
     const HWND canvas = AddControl(dialog, type.lpszClassName, "画布", Row(250, 50));
     AddControl(canvas, "Button", "深处", Row(0), 9);
-    BringWindowToTop(canvas);
 }
 
 void AddItems(HWND list, UINT add, UINT choose) {

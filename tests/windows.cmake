@@ -41,23 +41,6 @@ foreach(shared libgcc_s_dw2-1.dll libwinpthread-1.dll)
   file(COPY ${path} DESTINATION ${CMAKE_BINARY_DIR})
 endforeach()
 
-# An application for the agent to live in, the module that it looks for there, and what places it there.
-function(rux_windows_program program folder)
-  file(GLOB sources CONFIGURE_DEPENDS windows/${folder}/*.cpp)
-  add_executable(${program} ${sources} windows/common/ControlLine.cpp)
-  target_include_directories(${program} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
-  target_link_libraries(${program} PRIVATE rux_flags ws2_32 ${ARGN})
-  set_target_properties(${program} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
-endfunction()
-
-rux_windows_program(testhost host comctl32)
-set_target_properties(testhost PROPERTIES WIN32_EXECUTABLE TRUE)
-rux_windows_program(inject inject)
-add_library(standin MODULE windows/standin/vcl100.cpp)
-target_link_libraries(standin PRIVATE rux_flags)
-set_target_properties(standin PROPERTIES PREFIX "" OUTPUT_NAME vcl100 SUFFIX .bpl
-                      LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
-
 # Driven from the other side, by a program of the native build.
 set(RUX_NATIVE_TESTS ${CMAKE_SOURCE_DIR}/build/tests CACHE PATH "Where the native build has its test programs")
 list(JOIN CMAKE_CROSSCOMPILING_EMULATOR " " wine_run)

@@ -1,16 +1,16 @@
-#include "Commands.h"
+#include "host/windows/testhost/Commands.h"
 
 #include <map>
 #include <optional>
 
-#include "Dialogs.h"
-#include "Fixture.h"
-#include "Scenes.h"
-#include "UserInterface.h"
-#include "windows/common/AnsiText.h"
-#include "windows/common/ControlLine.h"
+#include "host/windows/common/AnsiText.h"
+#include "host/windows/common/ControlLine.h"
+#include "host/windows/testhost/Dialogs.h"
+#include "host/windows/testhost/Fixture.h"
+#include "host/windows/testhost/Scenes.h"
+#include "host/windows/testhost/UserInterface.h"
 
-namespace rux::test {
+namespace rux {
 
 namespace {
 
@@ -120,4 +120,4 @@ void EndIfAsked() {
     if (EndCode) RunOnUserInterface([] { PostQuitMessage(*EndCode); });
 }
 
-}  // namespace rux::test
+}  // namespace rux

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-namespace rux::test {
+namespace rux {
 
 /// Makes the calling thread the user interface's.
 void BeginUserInterface();
@@ -28,4 +28,4 @@ void Note(const std::string& text);
 /// All notes since the last call, with "; " between them.
 std::string TakeNotes();
 
-}  // namespace rux::test
+}  // namespace rux

@@ -1,12 +1,12 @@
-#include "Scenes.h"
+#include "host/windows/testhost/Scenes.h"
 
 #include <map>
 #include <utility>
 
-#include "Dialogs.h"
-#include "UserInterface.h"
+#include "host/windows/testhost/Dialogs.h"
+#include "host/windows/testhost/UserInterface.h"
 
-namespace rux::test {
+namespace rux {
 
 namespace {
 
@@ -111,4 +111,4 @@ void Elapse() {
     if (OnTimer) After(Soon, std::exchange(OnTimer, {}));
 }
 
-}  // namespace rux::test
+}  // namespace rux

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-namespace rux::test {
+namespace rux {
 
 /// Raises std::runtime_error wherever the system refuses.
 class TTarget {
@@ -53,4 +53,4 @@ class TParameters {
     HANDLE FMapping;
 };
 
-}  // namespace rux::test
+}  // namespace rux

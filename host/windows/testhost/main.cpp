@@ -11,12 +11,12 @@
 #include <thread>
 #include <vector>
 
-#include "Commands.h"
-#include "UserInterface.h"
-#include "windows/common/AnsiText.h"
-#include "windows/common/ControlLine.h"
+#include "host/windows/common/AnsiText.h"
+#include "host/windows/common/ControlLine.h"
+#include "host/windows/testhost/Commands.h"
+#include "host/windows/testhost/UserInterface.h"
 
-namespace rux::test {
+namespace rux {
 
 namespace {
 
@@ -95,8 +95,8 @@ int Run(const TOptions& options) {
 
 }  // namespace
 
-}  // namespace rux::test
+}  // namespace rux
 
 int main(int argc, char** argv) {
-    return rux::test::Run(rux::test::ReadOptions(argc, argv));
+    return rux::Run(rux::ReadOptions(argc, argv));
 }

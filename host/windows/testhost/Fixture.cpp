@@ -1,14 +1,14 @@
-#include "Fixture.h"
+#include "host/windows/testhost/Fixture.h"
 
 #include <windows.h>
 
 #include <commctrl.h>
 
-#include "Dialogs.h"
-#include "UserInterface.h"
-#include "windows/common/AnsiText.h"
+#include "host/windows/common/AnsiText.h"
+#include "host/windows/testhost/Dialogs.h"
+#include "host/windows/testhost/UserInterface.h"
 
-namespace rux::test {
+namespace rux {
 
 namespace {
 
@@ -77,4 +77,4 @@ void OpenFixture() {
     OpenDialog({"原生", {500, 100, 900, 500}, &Build, note});
 }
 
-}  // namespace rux::test
+}  // namespace rux

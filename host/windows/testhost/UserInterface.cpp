@@ -1,4 +1,4 @@
-#include "UserInterface.h"
+#include "host/windows/testhost/UserInterface.h"
 
 #include <deque>
 #include <map>
@@ -8,7 +8,7 @@
 #include <thread>
 #include <utility>
 
-namespace rux::test {
+namespace rux {
 
 namespace {
 
@@ -116,4 +116,4 @@ std::string TakeNotes() {
     return std::exchange(Notes, {});
 }
 
-}  // namespace rux::test
+}  // namespace rux

@@ -6,10 +6,10 @@
 #include <thread>
 #include <vector>
 
-#include "Target.h"
-#include "windows/common/ControlLine.h"
+#include "host/windows/common/ControlLine.h"
+#include "host/windows/inject/Target.h"
 
-namespace rux::test {
+namespace rux {
 
 namespace {
 
@@ -141,13 +141,13 @@ int Run(const TOptions& options) {
 
 }  // namespace
 
-}  // namespace rux::test
+}  // namespace rux
 
 int main(int argc, char** argv) {
     try {
-        return rux::test::Run(rux::test::ReadOptions(argc, argv));
+        return rux::Run(rux::ReadOptions(argc, argv));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "inject: %s\n", error.what());
     }
-    return rux::test::Unusable;
+    return rux::Unusable;
 }

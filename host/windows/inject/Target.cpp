@@ -1,10 +1,10 @@
-#include "Target.h"
+#include "host/windows/inject/Target.h"
 
 #include <cstring>
 #include <stdexcept>
 #include <utility>
 
-namespace rux::test {
+namespace rux {
 
 namespace {
 
@@ -110,4 +110,4 @@ TParameters::~TParameters() {
     CloseHandle(FMapping);
 }
 
-}  // namespace rux::test
+}  // namespace rux

@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace rux::test {
+namespace rux {
 
 inline std::string Recoded(const std::string& text, UINT from, UINT to) {
     std::wstring wide(text.size(), L'\0');
@@ -27,4 +27,4 @@ inline std::string Utf8(const std::string& ansi) {
     return Recoded(ansi, CP_ACP, CP_UTF8);
 }
 
-}  // namespace rux::test
+}  // namespace rux

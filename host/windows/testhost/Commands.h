@@ -5,11 +5,11 @@
 
 #include <string>
 
-namespace rux::test {
+namespace rux {
 
 /// On a thread that is not the user interface's. `application` is the hidden window.
 std::string RunCommand(HWND application, std::string line);
 /// When no more commands come: ends the host if one asked for that.
 void EndIfAsked();
 
-}  // namespace rux::test
+}  // namespace rux

@@ -1,10 +1,10 @@
-#include "Dialogs.h"
+#include "host/windows/testhost/Dialogs.h"
 
 #include <memory>
 
-#include "windows/common/AnsiText.h"
+#include "host/windows/common/AnsiText.h"
 
-namespace rux::test {
+namespace rux {
 
 namespace {
 
@@ -102,4 +102,4 @@ HWND FindDialog(const std::string& title) {
     return search.Found;
 }
 
-}  // namespace rux::test
+}  // namespace rux

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-namespace rux::test {
+namespace rux {
 
 struct TDialogPlan {
     /// UTF-8.
@@ -29,4 +29,4 @@ HWND AddControl(HWND parent, const char* className, const std::string& text, REC
 /// A visible dialog or message box of this process with that title (UTF-8); nullptr for none.
 HWND FindDialog(const std::string& title);
 
-}  // namespace rux::test
+}  // namespace rux

@@ -1,4 +1,4 @@
-#include "ControlLine.h"
+#include "host/windows/common/ControlLine.h"
 
 // clang-format off
 #include <winsock2.h>
@@ -8,7 +8,7 @@
 #include <exception>
 #include <stdexcept>
 
-namespace rux::test {
+namespace rux {
 
 TControlLine::TControlLine(std::uint16_t port) {
     WSADATA data;
@@ -59,4 +59,4 @@ std::string TakeWord(std::string& line) {
     return word;
 }
 
-}  // namespace rux::test
+}  // namespace rux

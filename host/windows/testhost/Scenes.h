@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace rux::test {
+namespace rux {
 
 /// All on the user-interface thread.
 
@@ -18,4 +18,4 @@ void Elapse();
 /// A box without a click, once this has returned.
 void BoxFromNowhere();
 
-}  // namespace rux::test
+}  // namespace rux

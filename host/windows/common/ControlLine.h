@@ -5,7 +5,7 @@
 #include <functional>
 #include <string>
 
-namespace rux::test {
+namespace rux {
 
 class TControlLine {
  public:
@@ -28,4 +28,4 @@ class TControlLine {
 /// A line's first word; it and the blank behind it are taken off the line.
 std::string TakeWord(std::string& line);
 
-}  // namespace rux::test
+}  // namespace rux

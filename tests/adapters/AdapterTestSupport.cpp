@@ -55,12 +55,6 @@ std::vector<std::string_view> Split(std::string_view text, std::string_view sepa
     return parts;
 }
 
-TKernelFacts SmallStacks() {
-    TKernelFacts facts;
-    facts.ThreadStackSize = 1 << 20;
-    return facts;
-}
-
 std::string Joined(const std::vector<std::string>& parts) {
     std::string all;
     for (const std::string& part : parts) all += (&part == parts.data() ? "" : "; ") + part;
@@ -69,16 +63,7 @@ std::string Joined(const std::vector<std::string>& parts) {
 
 }  // namespace
 
-std::string ErrorOf(const std::function<void()>& code) {
-    try {
-        code();
-        return {};
-    } catch (const Exception& error) {
-        return std::string(error.ClassName()) + ": " + AnsiToUtf8(error.Message());
-    }
-}
-
-TWatchedKernel::TWatchedKernel(TWaitClock& clock) : TPosixKernel(clock, SmallStacks()) {}
+TWatchedKernel::TWatchedKernel(TWaitClock& clock) : TPosixKernel(clock, {.ThreadStackSize = 1 << 20}) {}
 
 TAdapterTest::TAdapterTest() {
     [[maybe_unused]] static const bool once = (SetAnsiCodePage(LoadCodePage(936)), true);
@@ -135,7 +120,8 @@ std::string TAdapterTest::Call(std::string_view call) {
     const auto context = method->MakeContext();
     ConvertArguments(*method, *context, args);
     const std::string error = ErrorOf([&] { method->Invoke(*adapter, *context); });
-    if (!error.empty() || !method->ResultType) return error;
+    if (error != "nothing") return error;
+    if (!method->ResultType) return {};
     return AnsiToUtf8(ValueToText(*method->ResultType, context->GetResultPointer()));
 }
 

@@ -16,6 +16,7 @@
 #include "platform/headless/toolkit/HForm.h"
 #include "platform/posix/ManualClock.h"
 #include "platform/posix/PosixPlatform.h"
+#include "tests/rtl/TestCodePage.h"
 
 namespace rux::test {
 
@@ -53,7 +54,9 @@ class TAdapterTest : public testing::Test {
     std::vector<std::string> FLines;
 };
 
-/// Class and message of what `code` raises; empty if it raises nothing.
-std::string ErrorOf(const std::function<void()>& code);
+/// Class and message of what `code` raises; "nothing" if it raises nothing.
+inline std::string ErrorOf(const std::function<void()>& code) {
+    return AnsiToUtf8(Raised(code));
+}
 
 }  // namespace rux::test

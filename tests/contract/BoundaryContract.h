@@ -3,11 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <memory>
 #include <optional>
-#include <string>
-#include <string_view>
 
 #include "platform/FileService.h"
 #include "platform/KernelService.h"
@@ -17,24 +13,13 @@
 
 namespace rux::test {
 
-/// Another process, which has made a mutex and stays until this object goes: then it ends at once, whatever
-/// it is doing.
-class TMutexHolder {
- public:
-    virtual ~TMutexHolder() = default;
-    /// Whether it was the first to make it.
-    virtual bool Made() const = 0;
-};
-
 /// Services over a clock that the test moves, or that moves itself. The system's code page is set.
 class TPlatformUnderTest {
  public:
-    TPlatformUnderTest(TKernelService& kernel, TSocketService& sockets, TFileService& files)
-        : Kernel(kernel), Sockets(sockets), Files(files) {}
+    TPlatformUnderTest(TKernelService& kernel, TSocketService& sockets, TFileService& files,
+                       std::uint32_t longWait, std::uint32_t margin)
+        : Kernel(kernel), Sockets(sockets), Files(files), Long(longWait), Margin(margin) {}
     virtual ~TPlatformUnderTest() = default;
-    /// Milliseconds of a wait that shall run out, and how much earlier it surely still lasts.
-    virtual std::uint32_t Long() const = 0;
-    virtual std::uint32_t Margin() const = 0;
     virtual std::uint64_t Tick() = 0;
     /// Lets so much time pass.
     virtual void Advance(std::uint64_t milliseconds) = 0;
@@ -46,7 +31,6 @@ class TPlatformUnderTest {
     virtual void MakeReadOnly(const std::string& name) = 0;
     virtual void PublishMapping(const std::string& name, std::string_view bytes) = 0;
     virtual void RemoveMapping(const std::string& name) = 0;
-    virtual std::unique_ptr<TMutexHolder> HoldMutex(const std::string& name) = 0;
     /// The other end of a new connection; INVALID_SOCKET when nobody listens.
     virtual TSocketHandle Connect(std::uint16_t port) = 0;
     /// The user's regional settings.
@@ -55,6 +39,8 @@ class TPlatformUnderTest {
     TKernelService& Kernel;
     TSocketService& Sockets;
     TFileService& Files;
+    /// Milliseconds of a wait that shall run out, and how much earlier it surely still lasts.
+    const std::uint32_t Long, Margin;
 };
 
 using TPlatformFactory = std::unique_ptr<TPlatformUnderTest> (*)();
@@ -92,7 +78,7 @@ class BoundaryContract : public testing::TestWithParam<TPlatformFactory> {
     TConnection Connection();
 
     std::unique_ptr<TPlatformUnderTest> Platform = GetParam()();
-    const std::uint32_t Long = Platform->Long(), Margin = Platform->Margin();
+    const std::uint32_t Long = Platform->Long, Margin = Platform->Margin;
     TKernelService& Kernel = Platform->Kernel;
     TSocketService& Sockets = Platform->Sockets;
     TFileService& Files = Platform->Files;

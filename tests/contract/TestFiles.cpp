@@ -1,7 +1,5 @@
-#include <set>
 
 #include "contract/BoundaryContract.h"
-#include "rtl/CodePage.h"
 #include "rtl/Exceptions.h"
 
 namespace rux::test {

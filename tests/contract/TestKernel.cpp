@@ -1,24 +1,19 @@
 #include <atomic>
-#include <set>
-#include <vector>
 
 #include "contract/BoundaryContract.h"
 #include "rtl/Exceptions.h"
 #include "rtl/Stack.h"
 
 namespace rux::test {
-namespace {
 
 using enum TWaitResult;
 
-int Recurse(int depth) {
+static int Recurse(int depth) {
     CheckStack();
     volatile int here = depth;  // what no optimiser turns into a loop
     if (depth > 0) here = here + Recurse(depth - 1);
     return here;
 }
-
-}  // namespace
 
 TEST_P(BoundaryContract, AnEventKeepsOneSignalForOneWaiter) {
     const auto event = Kernel.CreateEventA();
@@ -136,19 +131,6 @@ TEST_P(BoundaryContract, MutexesAreFoundByTheirWholeName) {
         EXPECT_TRUE(Kernel.CreateMutexA(other)) << other;
     }
     EXPECT_FALSE(Kernel.CreateMutexA(std::string(300, '\\')));
-}
-
-TEST_P(BoundaryContract, AMutexIsThereAsLongAsTheLastProcessThatHoldsIt) {
-    const std::string name = "{CB35D3B5-7016}.4441";
-    auto first = Platform->HoldMutex(name), second = Platform->HoldMutex(name);
-    EXPECT_TRUE(first->Made() && !second->Made());
-    EXPECT_TRUE(Kernel.OpenMutexA(name));
-    first.reset();
-    EXPECT_TRUE(Kernel.OpenMutexA(name));
-    second.reset();
-    EXPECT_FALSE(Kernel.OpenMutexA(name));
-    EXPECT_TRUE(Kernel.CreateMutexA(name));
-    EXPECT_FALSE(Platform->HoldMutex(name)->Made());
 }
 
 TEST_P(BoundaryContract, AMappingGivesItsFirstBytes) {

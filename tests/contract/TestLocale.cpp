@@ -1,5 +1,4 @@
 #include "contract/BoundaryContract.h"
-#include "rtl/Dates.h"
 
 namespace rux::test {
 

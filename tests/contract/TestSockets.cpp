@@ -1,4 +1,3 @@
-#include <vector>
 
 #include "contract/BoundaryContract.h"
 #include "rtl/Exceptions.h"

@@ -5,12 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <functional>
-#include <memory>
-#include <string>
+#include <future>
 #include <thread>
-#include <utility>
-#include <vector>
 
 #include "platform/Bitmap.h"
 #include "platform/CodeService.h"
@@ -79,16 +75,8 @@ class WindowContract : public testing::TestWithParam<TWindowsFactory> {
     HWnd Make(const TNewWindow& window) { return FMade.emplace_back(Stage->Make(window)); }
     /// Runs `code` on another thread, and serves the windows until it has ended.
     void RunBeside(const std::function<void()>& code) {
-        std::atomic<bool> done{false};
-        std::thread thread([&] {
-            code();
-            done = true;
-        });
-        while (!done) {
-            Stage->Pump();
-            std::this_thread::yield();
-        }
-        thread.join();
+        const std::future<void> ended = std::async(std::launch::async, code);
+        while (ended.wait_for(std::chrono::seconds(0)) != std::future_status::ready) Stage->Pump();
     }
     /// The message box or dialog of that caption; 0 for none.
     HWnd DialogOf(const std::string& caption) {

@@ -127,20 +127,6 @@ TEST_F(FormErrors, NestingAndNumberOfPartsAreBounded) {
                           {"object T inline T", 1, "\"inline\"", tooMany}});
 }
 
-TEST_F(FormErrors, FieldsOfTheError) {
-    try {
-        ParseFormFile("a\\b.dfm", "object F: TF\n A = ]");
-        FAIL() << "no error";
-    } catch (const Exception& error) {
-        EXPECT_EQ(error.ClassName(), "EFormFileError");
-        const auto& formError = dynamic_cast<const EFormFileError&>(error);
-        EXPECT_EQ(formError.File, "a\\b.dfm");
-        EXPECT_EQ(formError.Line, 2);
-        EXPECT_EQ(formError.Found, "\"]\"");
-        EXPECT_EQ(formError.Expected, "a value");
-    }
-}
-
 }  // namespace
 
 }  // namespace rux::test

@@ -1,6 +1,4 @@
 // Real form files against counts of an independent reader, and forms of unusual size.
-#include <pthread.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
@@ -10,6 +8,7 @@
 #include <sstream>
 
 #include "tests/forms/FormTestSupport.h"
+#include "tests/support/SmallStack.h"
 
 namespace rux::test {
 
@@ -103,23 +102,8 @@ TEST_F(FormFiles, SurviveWritingAndReading) {
     }
 }
 
-/// Runs `body` on a thread whose stack has one megabyte, as a task thread may have.
-void RunOnSmallStack(void (*body)()) {
-    pthread_attr_t attributes;
-    ASSERT_EQ(pthread_attr_init(&attributes), 0);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, 1 << 20), 0);
-    pthread_t thread;
-    auto start = [](void* routine) -> void* {
-        (*static_cast<void (**)()>(routine))();
-        return nullptr;
-    };
-    ASSERT_EQ(pthread_create(&thread, &attributes, start, &body), 0);
-    ASSERT_EQ(pthread_join(thread, nullptr), 0);
-    pthread_attr_destroy(&attributes);
-}
-
 TEST_F(FormTest, DeepChainsAndDeepValuesNeedLittleStack) {
-    RunOnSmallStack([] {
+    OnSmallStack(1 << 20, [] {
         constexpr int depth = 20'000;
         std::string text;
         for (std::size_t i = 0; i < depth; ++i)
@@ -136,7 +120,7 @@ TEST_F(FormTest, DeepChainsAndDeepValuesNeedLittleStack) {
         file = {};
         EXPECT_EQ(copy.Objects.size(), std::size_t{depth});
     });
-    RunOnSmallStack([] {
+    OnSmallStack(1 << 20, [] {
         std::string form = "object F: TF A = " + Repeat(32, "<item A = (") + Repeat(32, ") end>") + " end";
         EXPECT_EQ(DumpOfWritten(form), DumpOf(form));
     });

@@ -24,7 +24,6 @@ std::vector<std::string> Split(std::string_view text, char separator) {
     return parts;
 }
 
-/// The first word, taken off.
 std::string Word(std::string_view& text) {
     const std::string word(text.substr(0, text.find(' ')));
     text = Trim(text.substr(word.size()));
@@ -234,9 +233,9 @@ bool TStage::ActOnDesktop(std::string_view verb, const std::string& rest, HEvent
         Record("focus " + focus + (capture == "-" ? "" : " capture " + capture) +
                (focus == "-" ? " active " + Short(Desktop, Desktop.GetActiveWindow()) : ""));
     }
-    static constexpr std::string_view all =
-        " key keydown keyup say raise abort box pump wait refuse answer type terminate where ";
-    return all.find(" " + std::string(verb) + " ") != all.npos;
+    return std::string_view(
+               " key keydown keyup say raise abort box pump wait refuse answer type terminate where ")
+               .find(" " + std::string(verb) + " ") != std::string_view::npos;
 }
 
 void TStage::Do(std::string_view actions, HEventArgs* args) {

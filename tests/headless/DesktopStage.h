@@ -2,10 +2,6 @@
 #pragma once
 
 #include <deque>
-#include <memory>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include "platform/headless/HeadlessPlatform.h"
 #include "platform/headless/loader/HFormLoader.h"

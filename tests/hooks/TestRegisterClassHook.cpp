@@ -1,6 +1,5 @@
 // Class registration, with the hook and without it.
 #include "Engine/Hooks/RUXRegisterClassHook.h"
-#include "Engine/Hooks/SolviHookUtils.h"
 #include "tests/support/EngineFixture.h"
 
 namespace rux::test {
@@ -12,22 +11,16 @@ class TRegistration : public TEngineTest {
     /// "what was raised, class registered by then"; another class of that name for each `number`.
     std::string Register(const std::string& name, int number) {
         HClasses& classes = Kit().ClassDefs();
+        const TClass& made = classes.Define(name, &classes.Define("TBase" + std::to_string(number), nullptr));
         std::string raised = "-";
         try {
-            Kit().RegisterClass(
-                classes.Define(name, &classes.Define("TBase" + std::to_string(number), nullptr)));
+            Kit().RegisterClass(made);
         } catch (const Exception& error) {
             raised = std::string(error.ClassName()) + ": " + error.Message();
         }
         const TClass* found = Kit().RegisteredClasses().GetClass(name);
         return raised + ", " + (found ? found->Name() + " of " + found->Parent()->Name() : "none");
     }
-    std::string CodeOfExport() {
-        std::string bytes(16, '\0');
-        Code.ReadMemory(ResolveCodeAddress(Code, Export), bytes.data(), bytes.size());
-        return bytes;
-    }
-
     HCodeSpace& Code = Desktop.CodeSpace();
     const TCodeAddress Export =
         Code.GetProcAddress("RTL100.BPL", "@Classes@RegisterClass$qqrp17System@TMetaClass");
@@ -37,14 +30,12 @@ class TRegistration : public TEngineTest {
 
 TEST_F(TRegistration, TolerantWhileTheHookLives) {
     const std::string clash = "EFilerError: A class named TGRID already exists, TGrid of TBase1";
-    const std::string code = CodeOfExport();
     const std::size_t functions = Code.FunctionCount();
     for (int i = 0; i < 2; ++i) EXPECT_EQ(Register("TGrid", 1), "-, TGrid of TBase1");
     EXPECT_EQ(Register("TGRID", 2), clash);
     for (const std::string fresh : {"TA", "TB"}) {
         TRegisterClassHook hook(Code);
         EXPECT_TRUE(hook.Installed());
-        EXPECT_NE(CodeOfExport(), code);
         EXPECT_EQ(Register("TGRID", 2), "-, TGrid of TBase1");
         EXPECT_EQ(Register(fresh, 3), "-, " + fresh + " of TBase3");
         const std::uintptr_t nil[] = {0};
@@ -52,7 +43,6 @@ TEST_F(TRegistration, TolerantWhileTheHookLives) {
         if (fresh == "TA") hook.Remove();
         EXPECT_EQ(hook.Installed(), fresh != "TA");
     }
-    EXPECT_EQ(CodeOfExport(), code);
     EXPECT_EQ(Code.FunctionCount(), functions);
     EXPECT_EQ(Register("TGRID", 2), clash);
 

@@ -57,26 +57,12 @@ class TAgainstPlain : public TLocatorTest {
         static const char* const moves[] = {">", "<", "^", "_"};
         std::string locator;
         for (int steps = Pick(0, 4); steps > 0; --steps) {
-            switch (Pick(0, 9)) {
-                case 0:
-                case 1:
-                    locator += "/";
-                    break;
-                case 2:
-                    locator += "#" + Pick(indexes);
-                    break;
-                case 3:
-                case 4:
-                case 5:
-                    locator += "?" + Pick(words);
-                    break;
-                case 6:
-                case 7:
-                    locator += Pick(moves);
-                    break;
-                default:
-                    locator += Pick(texts);
-            }
+            const int kind = Pick(0, 9);
+            locator += kind < 2    ? std::string("/")
+                       : kind == 2 ? "#" + Pick(indexes)
+                       : kind < 6  ? "?" + Pick(words)
+                       : kind < 8  ? Pick(moves)
+                                   : Pick(texts);
         }
         return locator;
     }

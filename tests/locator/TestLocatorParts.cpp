@@ -143,24 +143,24 @@ TEST_F(TLocatorParts, NearestAgainstComparingAll) {
         for (int i = 0; i < 40; ++i) {
             const TRect anchor = i == 0 ? NoPlace : PickRect(200, 60);
             for (const char d : {'<', '>', '^', '_'}) {
-                std::string expected, actual;
-                try {
+                const auto told = [](const auto& search) {
+                    try {
+                        return std::to_string(search());
+                    } catch (const EInvalidOp&) {
+                        return std::string("invalid");
+                    }
+                };
+                const std::string expected = told([&] {
                     std::size_t best = TNearest::None;
                     for (std::size_t k = 0; k < candidates.size(); ++k)
                         if (DirectionHolds(d, anchor, candidates[k]) &&
                             !(best != TNearest::None &&
                               RectGap(anchor, candidates[best]) <= RectGap(anchor, candidates[k])))
                             best = k;
-                    expected = std::to_string(best);
-                } catch (const EInvalidOp&) {
-                    expected = "invalid";
-                }
-                try {
-                    actual = std::to_string(fast.Find(d, anchor));
-                } catch (const EInvalidOp&) {
-                    actual = "invalid";
-                }
-                ASSERT_EQ(actual, expected) << "round " << round << " direction " << d;
+                    return best;
+                });
+                ASSERT_EQ(told([&] { return fast.Find(d, anchor); }), expected)
+                    << "round " << round << " direction " << d;
             }
         }
     }

@@ -9,6 +9,7 @@
 #include "Engine/Virtual/RUXVirtualStdCtrls.h"
 #include "LocatorTestSupport.h"
 #include "rtl/Numbers.h"
+#include "tests/rtl/TestCodePage.h"
 
 namespace rux::test {
 
@@ -100,12 +101,8 @@ class TNativeWalkTest : public TLocatorTest {
     }
     /// What the assertion names that the call fails, without its line.
     static std::string Failure(const std::function<void()>& call) {
-        try {
-            call();
-            return "none";
-        } catch (const EAssertionFailed& error) {
-            return error.Message().substr(0, error.Message().find(','));
-        }
+        const std::string text = Raised(call);
+        return text.substr(0, text.find(','));
     }
 
  private:
@@ -227,10 +224,11 @@ TEST_F(TNativeWalkTest, WhatAFinderTells) {
     EXPECT_EQ(again.GetChildCount(), 4);
     EXPECT_EQ(VirtualCast<TVirtualThing>(again.GetChild(3)).Handle(), below);
     EXPECT_EQ(Failure([&] { Engine.VirtualClasses->Register<TVirtualThing>(); }),
-              "Assertion failure (Engine/Virtual/RUXVirtualControls.cpp");
+              "EAssertionFailed: Assertion failure (Engine/Virtual/RUXVirtualControls.cpp");
     Engine.RequestStack.Clear();
     TVirtualWindow late(top);
-    EXPECT_EQ(Failure([&] { late.GetChildCount(); }), "Assertion failure (Engine/Core/RUXServerUtils.cpp");
+    EXPECT_EQ(Failure([&] { late.GetChildCount(); }),
+              "EAssertionFailed: Assertion failure (Engine/Core/RUXServerUtils.cpp");
 }
 
 }  // namespace rux::test

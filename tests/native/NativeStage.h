@@ -1,9 +1,6 @@
 // What tests of native windows share.
 #pragma once
 
-#include <string>
-#include <utility>
-
 #include "platform/headless/native/HNativeDialog.h"
 #include "platform/headless/native/HNativeFactory.h"
 #include "platform/headless/native/HNativeTree.h"

@@ -1,10 +1,8 @@
 // Windows that are no objects of the toolkit, driven as a script drives them: by messages and keys.
 #include <atomic>
 #include <cstring>
-#include <map>
-#include <sstream>
-#include <tuple>
 
+#include "Engine/Hooks/RUXPatchedExport.h"
 #include "NativeStage.h"
 #include "platform/headless/native/HMessageBox.h"
 #include "platform/headless/native/HNativeCombo.h"
@@ -56,9 +54,6 @@ class TNativeStage : protected TNotes, public TEngineTest {
     }
     void Pump() {
         for (TMessage message; Windows.PeekAny(message);) Windows.DispatchMessage(message);
-    }
-    void PumpUntil(const std::function<bool()>& done) {
-        for (; !done(); Pump()) Windows.WaitMessage();
     }
     /// Each step when nothing else waits, in whatever loop runs by then.
     void Play(TSteps steps) {
@@ -359,18 +354,12 @@ TEST_F(TNativeStage, MessageBoxFollowsItsText) {
 
 TEST_F(TNativeStage, MessageBoxOfAnotherThread) {
     const HWnd owner = Shown(Dialog());
-    // The export's jump leads to whoever patched it.
-    HCodeSpace& code = Desktop.CodeSpace();
-    const TCodeAddress jump = code.GetProcAddress("user32.dll", "ShowWindow") + 8;
-    std::uint32_t real = 0, protection = 0;
     std::atomic<std::uintptr_t> caller{0}, showing{0};
-    code.ReadMemory(jump, &real, 4);
-    code.VirtualProtect(jump, 4, 0x40, protection);
-    const TCodeAddress patch = code.MakeFunction(TCallKind::StdCall, 2, [&](auto arguments) {
+    TPatchedExport patch(Desktop.CodeSpace(), TCallKind::StdCall);
+    ASSERT_TRUE(patch.Install("user32.dll", "ShowWindow", 2, [&](auto arguments) {
         showing = Kernel.GetCurrentThreadId();
-        return code.Call(TCallKind::StdCall, real, arguments);
-    });
-    code.WriteMemory(jump, &patch, 4);
+        return patch.CallOriginal(arguments);
+    }));
     // Nothing is shown any more once the application has ended.
     const std::pair<std::string, unsigned> rows[] = {{"enter", 1}, {"close", 2}, {"quit", 0}, {"late", 0}};
     for (const auto& [way, expected] : rows) {
@@ -384,13 +373,13 @@ TEST_F(TNativeStage, MessageBoxOfAnotherThread) {
             Windows.PostMessageA(owner, WM_NULL, 0, 0);
         });
         if (way != "late") {
-            PumpUntil([&] { return Windows.GetActiveWindow() != owner; });
+            for (; Windows.GetActiveWindow() == owner; Pump()) Windows.WaitMessage();
             EXPECT_TRUE(Windows.IsWindowEnabled(owner) && showing == caller);
         }
         if (way == "enter") Key(VK_RETURN);
         if (way == "close") Windows.PostMessageA(Windows.GetActiveWindow(), WM_CLOSE, 0, 0);
         if (way == "quit") Windows.Quit();
-        PumpUntil([&] { return done || Windows.Quitting(); });
+        for (; !done && !Windows.Quitting(); Pump()) Windows.WaitMessage();
         thread->WaitFor(WaitForever);
         EXPECT_EQ(answer, expected) << way;
     }

@@ -54,13 +54,9 @@ class TVirtualControls : protected TNotes, public testing::Test {
         node(a, "B");
         node(node(TVI_ROOT, "丁"), "c");
         node(TVI_ROOT, "e f");
-        HCreateParams canvas;
-        canvas.ClassName = "Canvas";  // in no list
-        canvas.Text = Ansi("画布");
-        canvas.Style = Child;
-        canvas.Parent = Dialog;
-        canvas.Rect = {10, 250, 200, 300};
-        Add("Button", "深处", 0, 9, Windows().CreateWindowA(canvas));
+        const HWnd canvas = Windows().CreateWindowA(  // of a class in no list
+            {"Canvas", Ansi("画布"), Child, 0, Dialog, {10, 250, 200, 300}, {}, 0, nullptr, nullptr});
+        Add("Button", "深处", 0, 9, canvas);
         // The toolkit takes the window for the panel's.
         auto& panel = dynamic_cast<HWinControl&>(*Host.Form("Main").FindComponent("pnlFree"));
         panel.SetParent(nullptr);

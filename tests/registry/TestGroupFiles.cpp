@@ -56,17 +56,15 @@ TEST_F(GroupFiles, RowsOfATesterSurvive) {
 }
 
 TEST_F(GroupFiles, MembershipByNameAndByInheritanceSeesEdits) {
+    // clang-format off
     const struct {
         const char* File;
         std::int64_t Stamp;
-        const char* Group;
-        const char* ClassName;
+        const char *Group, *ClassName;
         bool Expected;
     } rows[] = {
-        {"", 5000, "Button", "TMyButton", true},
-        {"", 5000, "bUTTON", "tbutton", true},
-        {"", 5000, "Edit", "TMyButton", false},
-        {"", 5000, "Nothing", "TMyButton", false},
+        {"", 5000, "Button", "TMyButton", true}, {"", 5000, "bUTTON", "tbutton", true},
+        {"", 5000, "Edit", "TMyButton", false}, {"", 5000, "Nothing", "TMyButton", false},
         {"[Edit]\r\nTMyButton=\r\n", 6000, "Edit", "TMyButton", true},
         {"[Edit]\r\nTMyButton=\r\n", 6000, "Button", "TMyButton", false},
         {"[Edit]\r\nTMyButton=\r\n", 6000, "Button", "TButton", true},
@@ -74,8 +72,8 @@ TEST_F(GroupFiles, MembershipByNameAndByInheritanceSeesEdits) {
         {"[Edit]\r\nTMyButton=x\r\n", 10, "Button", "TMyButton", true},
         {"[Other]\r\ntmybutton =\r\n", 9, "Button", "TMyButton", false},
         {"[Other]\r\nTButton=\r\n", 11, "Button", "TMyButton", true},
-        {"[Word]\r\nTObject=\r\n", 12, "Word", "TMyButton", true},
-    };
+        {"[Word]\r\nTObject=\r\n", 12, "Word", "TMyButton", true}};
+    // clang-format on
     TThing button(Chain("TObject TButton TMyButton"));
     for (const auto& row : rows) {
         Files.Put(ClassFile, row.File, row.Stamp);
@@ -96,8 +94,7 @@ TEST_F(GroupFiles, MembershipByNameAndByInheritanceSeesEdits) {
 
 TEST_F(GroupFiles, MethodsThatDemandAnEnabledControl) {
     const struct {
-        const char* Group;
-        const char* Method;
+        const char *Group, *Method;
         bool Expected;
     } rows[] = {{"Button", "Click", true},      {"BUTTON", "cLICK", true}, {"Button", "Active", false},
                 {"RadioButton", "Click", true}, {"", "Click", false},      {"", "", false},

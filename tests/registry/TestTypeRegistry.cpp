@@ -44,8 +44,21 @@ std::string NameOf(const TIntf<IFindAdapter>& finder) {
 }
 
 using TypeRegistry = TRegistryTest;
+using EngineState = THostTest;
 
 }  // namespace
+
+TEST_F(EngineState, OneEngineStandsAtATime) {
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_FALSE(EngineStands());
+        EXPECT_THROW(Engine(), EAssertionFailed);
+        const TEngineState state(Desktop.Platform());
+        EXPECT_THROW(TEngineState{Desktop.Platform()}, EAssertionFailed);
+        EXPECT_EQ(&Engine(), &state);
+        EXPECT_EQ(&Platform(), &Desktop.Platform());
+    }
+    EXPECT_FALSE(EngineStands());
+}
 
 TEST_F(TypeRegistry, NearestAncestorByNameAndFirstOfTies) {
     TTypeRegistry& registry = *State.Registry;

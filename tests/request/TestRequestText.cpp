@@ -38,43 +38,34 @@ class TRequestTextTest : public TEngineTest {
 }  // namespace
 
 TEST_F(TRequestTextTest, Splitting) {
+    // clang-format off
     const struct {
         const char *Text, *Expected;
     } rows[] = {
-        {"a$b", "a|b||"},
-        {"a$b?PopupWindow", "a|b||P()"},
-        {"a$b(1,2)?ExactMatch?IgnorePopupWindow", "a|b|[1][2]|EI"},
-        {"a\\$b$c", "a$b|c||"},
+        {"a$b", "a|b||"}, {"a$b?PopupWindow", "a|b||P()"},
+        {"a$b(1,2)?ExactMatch?IgnorePopupWindow", "a|b|[1][2]|EI"}, {"a\\$b$c", "a$b|c||"},
         {"a\\/b$c\\$d(\\$)", "a\\/b|c$d|[$]|"},  // other escapes of the locator are its own
         {"\\\\$b", "no call"},                   // a doubled backslash protects all the same
-        {"$b", "|b||"},
-        {"a$", "a|||"},
-        {"ab", "no call"},
-        {"a$b(1", "no closing"},
-        {"a$b()", "a|b||"},
-        {"a$b(,)", "a|b|[][]|"},
-        {"a$b(a,)", "a|b|[a][]|"},
+        {"$b", "|b||"}, {"a$", "a|||"}, {"ab", "no call"}, {"a$b(1", "no closing"}, {"a$b()", "a|b||"},
+        {"a$b(,)", "a|b|[][]|"}, {"a$b(a,)", "a|b|[a][]|"},
         {"a$b(x)y?ExactMatch", "a|b|[x]|E"},       // what stands behind the parenthesis is an option, too
         {"a$b(x)ExactMatch", "a|b|[x]|E"},         //
         {"a$b(1)?PopupWindow=x,y", "no closing"},  // a comma in the options ends an argument
         {"a$b(1)2)", "a|b|[1]|"},                  // the first parenthesis closes
-        {"a$b(\\))", "a|b|[)]|"},
-        {"a$FIND", "a|FIND*||"},
+        {"a$b(\\))", "a|b|[)]|"}, {"a$FIND", "a|FIND*||"},
         {"a$b? popupwindow = 保存 .*?Nothing??WaitForWindow=^a\\?b$", "a|b||P( 保存 .*)W(^a\\?b$)"},
         {"a$b?CloseUnExpactPopupWindow?CloseUnexpectPopupWindow", "a|b||C"},
         {"a$b(\"x\",\"y,z\")", "a|b|[x][\"y][z\"]|"},  // quotes do not hold a comma
         {"a$b(\")", "a|b|[]|"},
         {"a$b(\"\\:x\")", "a|b|[\":x\"]|"},  // an escaped colon first: quotes stay
-        {"a$b(\"x:\\:\")", "a|b|[x::]|"},
-        {"a$b(a\\,b)", "a|b|[a,b]|"},
+        {"a$b(\"x:\\:\")", "a|b|[x::]|"}, {"a$b(a\\,b)", "a|b|[a,b]|"},
         {"a$b(a\\\\,b)", "a|b|[a\\,b]|"},  // the comma is protected, and so is the backslash
-        {"a$b(a\\\\\\,b)", "a|b|[a\\,b]|"},
-        {"a$b(\\a\\)", "no closing"},
-        {"a$b(\\a)", "a|b|[a]|"},
+        {"a$b(a\\\\\\,b)", "a|b|[a\\,b]|"}, {"a$b(\\a\\)", "no closing"}, {"a$b(\\a)", "a|b|[a]|"},
         {"誠$b(誠,億,\\誠)?PopupWindow=誠",
          "誠|b|[誠][億][誠]|P(誠)"},       // second bytes 5C and 7C are no syntax
         {"a$b(服\\,务)", "a|b|[服,务]|"},  // nor is the second byte FE a placeholder
     };
+    // clang-format on
     for (const auto& row : rows) EXPECT_EQ(Parsed(row.Text), row.Expected) << row.Text;
 }
 
@@ -135,27 +126,20 @@ std::string Through(const std::string& text) {
 }  // namespace
 
 TEST_F(TRequestTextTest, Conversion) {
+    // clang-format off
     const struct {
         std::string (*Convert)(const std::string&);
         const char *Text, *Expected;
     } rows[] = {
-        {Through<int>, " 12 ", "12"},
-        {Through<int>, "$FFFFFFFF", "-1"},
+        {Through<int>, " 12 ", "12"}, {Through<int>, "$FFFFFFFF", "-1"},
         {Through<int>, "12a", "EConvertError: '12a' is not a valid integer value"},
-        {Through<std::int8_t>, "200", "-56"},
-        {Through<std::uint16_t>, "65537", "1"},
-        {Through<std::int64_t>, "-9223372036854775808", "-9223372036854775808"},
-        {Through<char>, "xy", "x"},
-        {Through<char16_t>, "中文", "中"},
-        {Through<bool>, " TRUE", "True"},
-        {Through<bool>, "0", "False"},
+        {Through<std::int8_t>, "200", "-56"}, {Through<std::uint16_t>, "65537", "1"},
+        {Through<std::int64_t>, "-9223372036854775808", "-9223372036854775808"}, {Through<char>, "xy", "x"},
+        {Through<char16_t>, "中文", "中"}, {Through<bool>, " TRUE", "True"}, {Through<bool>, "0", "False"},
         {Through<bool>, "", "False"},
         {Through<bool>, "maybe", "True"},  // stored as 255, which is no error and not False
-        {Through<TSide>, "SDRIGHT ", "sdRight"},
-        {Through<TSide>, "", "sdLeft"},
-        {Through<TSide>, "up", ""},
-        {Through<double>, " 1.5e3 ", "1500"},
-        {Through<double>, "-inf", "-INF"},
+        {Through<TSide>, "SDRIGHT ", "sdRight"}, {Through<TSide>, "", "sdLeft"}, {Through<TSide>, "up", ""},
+        {Through<double>, " 1.5e3 ", "1500"}, {Through<double>, "-inf", "-INF"},
         {Through<double>, "nan", "NaN"},
         {Through<double>, "1,5", "EConvertError: '1,5' is not a valid floating point value"},
         {Through<float>, "0.5", "0.5"},
@@ -164,12 +148,12 @@ TEST_F(TRequestTextTest, Conversion) {
         {Through<TCurrencyValue>, "1e300", "EInvalidOp: Invalid floating point operation"},
         {Through<TDateTimeValue>, "2008-03-05T09:05:07+08:00", "2008-03-05T09:05:07.000+08:00"},
         {Through<TDateTimeValue>, "5.3.2008", "EConvertError: '5.3.2008' is not a valid date and time"},
-        {Through<std::string>, " 中 ", " 中 "},
-        {Through<std::u16string>, "中", "中"},
+        {Through<std::string>, " 中 ", " 中 "}, {Through<std::u16string>, "中", "中"},
         {Through<TObject*>, "x", "refused"},
         {Through<TMarker>, "x",
          "ETypeTransException: Internal error: data type kind TMarker not expected in this context"},
     };
+    // clang-format on
     for (const auto& row : rows) EXPECT_EQ(row.Convert(row.Text), row.Expected) << row.Text;
     EXPECT_EQ(Through<TShortStringValue>(std::string(254, 'a') + "中"), std::string(254, 'a'));
     std::vector<std::int32_t> numbers;
@@ -261,16 +245,6 @@ TEST_F(TRequestTextTest, MethodsByNameAndCount) {
     } stranger;
     const auto context = ThingRows[0].MakeContext();
     EXPECT_THROW(ThingRows[0].Invoke(stranger, *context), EAccessViolation);
-}
-
-TEST_F(TRequestTextTest, StatusNumbersAndComments) {
-    for (const TReturnCodeRow& row : ReturnCodeComments) {
-        const int code = row.Code;
-        EXPECT_EQ(&row - ReturnCodeComments, code);
-        EXPECT_EQ(ReturnCodeToStatus(row.Code), code >= 1 && code <= 3 ? 210 + code : 510 + code);
-        EXPECT_EQ(IsErrorCode(row.Code), code >= 4 && code <= 9);
-    }
-    EXPECT_EQ(ReturnCodeComment(rcPreviousNodeFailed), Ansi("前节点执行异常"));
 }
 
 }  // namespace rux::test

@@ -70,8 +70,6 @@ TEST_F(TNumberTest, FloatToStr) {
         0.0, -0.0, 0.1, -100, 0.0001, 0.00001, -0.0000442615029219009, 1.0 / 3, 2.0 / 3, 0.1 + 0.2,
         999999999999999.0, 999999999999999.9, 123456789012345678.0, std::numeric_limits<double>::max(),
         5E-324, NAN, INFINITY, -INFINITY};
-    // clang-format on
-    // clang-format off
     const string texts[] = {
         "0", "0", "0.1", "-100", "0.0001", "1E-5", "-4.42615029219009E-5", "0.333333333333333",
         "0.666666666666667", "0.3", "999999999999999", "1E15", "1.23456789012346E17",
@@ -104,16 +102,14 @@ TEST_F(TNumberTest, RoundingGoesByDigits) {
 
 TEST_F(TNumberTest, Format) {
     const std::initializer_list<TFormatArg> args = {"ab", 42, -5, 4660LL};
-    const std::pair<string, string> rows[] = {{"", ""},
-                                              {"%s is %d%%", "ab is 42%"},
-                                              {"%S=%D", "ab=42"},
-                                              {"%0:s,Global\\%0:s,%d", "ab,Global\\ab,42"},
-                                              {"[%5s][%-5d]", "[   ab][42   ]"},
-                                              {"[%.1s][%.4d][%5.3d]", "[a][0042][ -005]"},
-                                              {"[%2:-4.2d]", "[-05 ]"},
-                                              {"%3:.8X %3:x %2:x", "00001234 1234 FFFFFFFB"},
-                                              {"%2:u", "4294967291"},
-                                              {Ansi("誠%s中"), Ansi("誠ab中")}};
+    // clang-format off
+    const std::pair<string, string> rows[] = {
+        {"", ""}, {"%s is %d%%", "ab is 42%"}, {"%S=%D", "ab=42"},
+        {"%0:s,Global\\%0:s,%d", "ab,Global\\ab,42"}, {"[%5s][%-5d]", "[   ab][42   ]"},
+        {"[%.1s][%.4d][%5.3d]", "[a][0042][ -005]"}, {"[%2:-4.2d]", "[-05 ]"},
+        {"%3:.8X %3:x %2:x", "00001234 1234 FFFFFFFB"}, {"%2:u", "4294967291"},
+        {Ansi("誠%s中"), Ansi("誠ab中")}};
+    // clang-format on
     for (const auto& [format, text] : rows) EXPECT_EQ(rux::Format(format, args), text) << format;
     EXPECT_EQ(rux::Format("%x", {-1LL}), "FFFFFFFFFFFFFFFF");
     EXPECT_EQ(rux::Format("%x%d", {0, 0}) + IntToHex8(0xFEDCBA98), "00FEDCBA98");

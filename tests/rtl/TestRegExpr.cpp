@@ -5,9 +5,6 @@
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #endif
 
-#include <pthread.h>
-
-#include <functional>
 #include <iterator>
 #include <random>
 #include <regex>
@@ -15,6 +12,7 @@
 #include <vector>
 
 #include "tests/rtl/TestCodePage.h"
+#include "tests/support/SmallStack.h"
 
 namespace rux::test {
 namespace {
@@ -131,24 +129,9 @@ TEST_F(TRegExprTest, KnowsTheRussianAlphabet) {
     // clang-format on
 }
 
-/// Runs `action` where a stack is as small as a thread of the application may have it.
-void OnSmallStack(std::function<void()> action) {
-    pthread_attr_t attributes;
-    pthread_attr_init(&attributes);
-    pthread_attr_setstacksize(&attributes, 256 * 1024);
-    pthread_t thread{};
-    const auto enter = [](void* run) {
-        (*static_cast<std::function<void()>*>(run))();
-        return run;
-    };
-    ASSERT_EQ(pthread_create(&thread, &attributes, enter, &action), 0);
-    pthread_join(thread, nullptr);
-    pthread_attr_destroy(&attributes);
-}
-
 TEST_F(TRegExprTest, NeitherOverflowsNorHangs) {
     const string run(1'000'000, 'a');
-    OnSmallStack([&run] {
+    OnSmallStack(256 * 1024, [&run] {
         for (const char* expression : {".*b", "(a|b)*b", "(?i)[^B]+B"})
             EXPECT_EQ(Answer(expression, run + "b").substr(0, 8), "1:aaaaaa") << expression;
         for (const char* expression : {".*x", "(a+)(x|y)", "a*?b", "(ab)*c"})

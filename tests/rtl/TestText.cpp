@@ -33,15 +33,11 @@ TEST_F(TTextTest, SameTextFoldsBytesAndAnsiSameTextCharacters) {
     for (const auto& [a, b] : {std::pair{"Ａ", "ａ"}, {"Αё", "αЁ"}, {"аⅠ", "Аⅰ"}}) {
         EXPECT_TRUE(!SameText(Ansi(a), Ansi(b)) && AnsiSameText(Ansi(a), Ansi(b))) << a;
     }
-    for (const auto& [a, b] : {std::pair{"a", "ab"},
-                               {"@", "`"},
-                               {"[", "{"},
-                               {"a\x01", "a"},
-                               {"\xD6", "\xD7"},
-                               {"\x81 ", "\x82 "},
-                               {"\xA3\xC1", "A"}}) {
+    const char* const different[][2] = {{"a", "ab"},      {"@", "`"},       {"[", "{"},
+                                        {"a\x01", "a"},   {"\xD6", "\xD7"}, {"\x81 ", "\x82 "},
+                                        {"\xA3\xC1", "A"}};
+    for (const auto& [a, b] : different)
         EXPECT_FALSE(SameText(a, b) || AnsiSameText(a, b) || AnsiSameText(b, a)) << a;
-    }
     EXPECT_TRUE(SameText(Ansi("丄"), Ansi("乤")));
     EXPECT_FALSE(AnsiSameText(Ansi("丄"), Ansi("乤")));
 }
@@ -96,13 +92,12 @@ TEST_F(TTextTest, AnsiPosAgreesWithSteppingOnAnyBytes) {
 }
 
 TEST_F(TTextTest, ReplaceAll) {
-    const string rows[][4] = {{"aXaxA", "a", "b", "bXbxA"},
-                              {"aaa", "aa", "b", "ba"},
-                              {"aba", "a", "aa", "aabaa"},
-                              {"abc", "", "x", "abc"},
-                              {Ansi("誠\\n"), "\\", "/", Ansi("誠/n")},
-                              {Ansi("中国泄"), Ansi("泄"), "-", Ansi("中国-")},
-                              {"a\0a"s, "a", "bb", "bb\0a"s}};
+    // clang-format off
+    const string rows[][4] = {
+        {"aXaxA", "a", "b", "bXbxA"}, {"aaa", "aa", "b", "ba"}, {"aba", "a", "aa", "aabaa"},
+        {"abc", "", "x", "abc"}, {Ansi("誠\\n"), "\\", "/", Ansi("誠/n")},
+        {Ansi("中国泄"), Ansi("泄"), "-", Ansi("中国-")}, {"a\0a"s, "a", "bb", "bb\0a"s}};
+    // clang-format on
     for (const auto& row : rows) EXPECT_EQ(ReplaceAll(row[0], row[1], row[2]), row[3]);
 }
 

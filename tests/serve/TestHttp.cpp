@@ -163,14 +163,6 @@ TEST_F(THttp, ClientsThatGoAway) {
     EXPECT_EQ(Host.Ask("中文$Find"), "211 成功返回\nTrue");
 }
 
-TEST_F(THttp, IdleConnectionsInTheHundreds) {
-    std::vector<std::unique_ptr<TRawClient>> idle;
-    for (int i = 0; i < 500; ++i) idle.push_back(std::make_unique<TRawClient>(Host.Port()));
-    EXPECT_EQ(Host.Ask("中文$Find"), "211 成功返回\nTrue");
-    for (auto& client : idle) client->Send("GET /中文" + std::string(FindTail));
-    for (auto& client : idle) ASSERT_TRUE(client->ReadUntil("True").starts_with("HTTP/1.1 211"));
-}
-
 // Five hundred requests at once nest, are set aside beyond the depth that a small stack bears, and are all
 // served.
 TEST(THttpSmallStack, RequestsAtOnceInTheHundreds) {
@@ -182,17 +174,18 @@ TEST(THttpSmallStack, RequestsAtOnceInTheHundreds) {
     TLiveHost host({MainForm}, stack);
     std::vector<std::unique_ptr<TRawClient>> clients;
     for (int i = 0; i < 500; ++i) clients.push_back(std::make_unique<TRawClient>(host.Port()));
+    EXPECT_EQ(host.Ask("中文$Find"), "211 成功返回\nTrue");  // idle, they are in nobody's way
     // While the application is busy they gather in its queue.
     host.Run([&] {
         for (auto& client : clients) client->Send("GET /中文" + std::string(FindTail));
-        while (Occurrences(host.Log(), "Request :").size() < clients.size()) std::this_thread::yield();
+        while (Occurrences(host.Log(), "Request :").size() <= clients.size()) std::this_thread::yield();
     });
     for (auto& client : clients) ASSERT_TRUE(client->ReadUntil("True").starts_with("HTTP/1.1 211"));
     EXPECT_EQ(host.Ask("中文$Find"), "211 成功返回\nTrue");
     EXPECT_EQ(host.Engine().RequestStack.Count(), 0u);
     // They nested as deep as the rule allows, and no deeper.
     const std::vector<std::string> counts = Occurrences(host.Log(), "StactCount:");
-    ASSERT_EQ(counts.size(), clients.size() + 1);
+    ASSERT_EQ(counts.size(), clients.size() + 2);
     int deepest = 0;
     for (const std::string& count : counts) deepest = std::max(deepest, std::stoi(count));
     EXPECT_GE(deepest, 10);

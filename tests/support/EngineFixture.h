@@ -64,8 +64,7 @@ class TEngineTest : public testing::Test {
 
  private:
     static std::filesystem::path NewFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "rux-engine-XXXXXX").string();
-        return mkdtemp(name.data());
+        return mkdtemp((std::filesystem::temp_directory_path() / "rux-engine-XXXXXX").string().data());
     }
     static TKernelFacts Facts(const std::filesystem::path& folder) {
         SetAnsiCodePage(LoadCodePage(936));

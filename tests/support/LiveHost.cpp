@@ -1,7 +1,6 @@
 #include "LiveHost.h"
 
 #include <algorithm>
-#include <thread>
 
 #include "platform/headless/forms/FormParser.h"
 #include "platform/headless/loader/HFormLoader.h"
@@ -19,8 +18,7 @@ constexpr unsigned RunCode = 0x8001;
 /// Posted to the same window: tells whoever waits in Settle.
 constexpr unsigned Settled = 0x8002;
 std::filesystem::path NewFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "rux-live-XXXXXX").string();
-    return mkdtemp(name.data());
+    return mkdtemp((std::filesystem::temp_directory_path() / "rux-live-XXXXXX").string().data());
 }
 
 }  // namespace
@@ -194,15 +192,13 @@ std::string TLiveHost::Boxes() {
     return AnsiToUtf8(all);
 }
 
-void TLiveHost::CloseBox() {
+void TLiveHost::CloseBoxes() {
     Run([&] {
         Desktop().EnumWindows([&](HWnd window) {
-            const bool box = Desktop().GetClassNameA(window) == "#32770";
-            if (box) Desktop().PostMessageA(window, WM_CLOSE, 0, 0);
-            return !box;
+            if (Desktop().GetClassNameA(window) == "#32770") Desktop().PostMessageA(window, WM_CLOSE, 0, 0);
+            return true;
         });
     });
-    WaitFor("close #32770");
 }
 
 std::string TLiveHost::Log() {
@@ -212,30 +208,6 @@ std::string TLiveHost::Log() {
     for (std::size_t at = text.find(stamp); at != text.npos; at = text.find(stamp, at))
         text.erase(at, stamp.size());
     return text;
-}
-
-struct TPendingCall::TThread {
-    std::string Result;
-    std::thread Thread;
-};
-
-TPendingCall::TPendingCall(TLiveHost& host, std::string request) : FThread(std::make_unique<TThread>()) {
-    FThread->Thread = std::thread([&host, request = std::move(request), thread = FThread.get()] {
-        try {
-            thread->Result = host.Ask(request);
-        } catch (const std::exception& error) {
-            thread->Result = error.what();
-        }
-    });
-}
-
-TPendingCall::~TPendingCall() {
-    if (FThread->Thread.joinable()) FThread->Thread.join();
-}
-
-std::string TPendingCall::Answer() {
-    if (FThread->Thread.joinable()) FThread->Thread.join();
-    return FThread->Result;
 }
 
 }  // namespace rux::test

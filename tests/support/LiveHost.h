@@ -7,6 +7,7 @@
 #include <condition_variable>
 #include <filesystem>
 #include <functional>
+#include <future>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -66,7 +67,8 @@ class TLiveHost {
     void WaitFor(std::string_view text);
     /// All windows of the class #32770: their text children joined.
     std::string Boxes();
-    void CloseBox();
+    /// Sends every one of them a close.
+    void CloseBoxes();
     /// The log without its time stamps, in UTF-8.
     std::string Log();
     std::filesystem::path Folder() const { return FFolder; }
@@ -99,16 +101,19 @@ class TLiveHost {
 /// A request that runs on a thread of its own, for calls that do not come back yet.
 class TPendingCall {
  public:
-    TPendingCall(TLiveHost& host, std::string request);
-    ~TPendingCall();
-    TPendingCall(const TPendingCall&) = delete;
-    TPendingCall& operator=(const TPendingCall&) = delete;
+    TPendingCall(TLiveHost& host, std::string request)
+        : FAnswer(std::async(std::launch::async, [&host, request = std::move(request)] {
+              try {
+                  return host.Ask(request);
+              } catch (const std::exception& error) {
+                  return std::string(error.what());
+              }
+          })) {}
     /// Waits for the answer.
-    std::string Answer();
+    std::string Answer() { return FAnswer.get(); }
 
  private:
-    struct TThread;
-    std::unique_ptr<TThread> FThread;
+    std::future<std::string> FAnswer;
 };
 
 }  // namespace rux::test

@@ -24,8 +24,7 @@ namespace fs = std::filesystem;
 class TTemporaryFolder {
  public:
     TTemporaryFolder() {
-        std::string pattern = (fs::temp_directory_path() / "rux-test-XXXXXX").string();
-        Path = ::mkdtemp(pattern.data());
+        Path = ::mkdtemp((fs::temp_directory_path() / "rux-test-XXXXXX").string().data());
         fs::permissions(Path, fs::perms::all);
     }
     ~TTemporaryFolder() { DeleteSystemTree(Path); }

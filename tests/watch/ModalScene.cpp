@@ -1,4 +1,5 @@
-#include "watch/ModalScene.h"
+// The player of scenes on the desktop in memory. Time passes only when a scene says so, and where two threads
+// could both be first it is the user-interface thread.
 
 #include <atomic>
 #include <chrono>
@@ -10,31 +11,12 @@
 
 #include "platform/headless/native/HMessageBox.h"
 #include "rtl/Numbers.h"
+#include "support/LiveHost.h"
+#include "watch/Scene.h"
 
 namespace rux::test {
 
 namespace {
-
-/// How the application comes to show a window of the title Box, and how that window goes away again.
-struct TSituation {
-    std::string_view Name;
-    /// The request that sets it off, without options.
-    std::string_view Request;
-    std::vector<std::string_view> Forms;
-    /// Gives the forms their code.
-    std::function<void(TLiveHost&)> Prepare;
-    /// What the journal says when the window comes.
-    std::string_view Shown;
-    /// Ends what the situation began; the call, if it waits, goes on.
-    std::function<void(TLiveHost&)> End;
-    /// The window comes when this much time has passed since the call; 0: during the call.
-    std::uint32_t Delay = 0;
-    /// The window's description.
-    std::string_view Description;
-    /// True, on the user-interface thread, once whoever shows the window has come back from showing it;
-    /// needed where that is another thread.
-    std::function<bool(TLiveHost&)> IsShown = {};
-};
 
 constexpr std::uint32_t Hour = 3600000;
 constexpr std::uint32_t Delay = 10;
@@ -109,7 +91,7 @@ void PrepareBoxOnModal(TLiveHost& host) {
 }
 
 void EndBoxOnModal(TLiveHost& host) {
-    CloseBoxes(host);
+    host.CloseBoxes();
     host.Settle();
     host.Run([&] { FormNamed(host, "Base").Close(); });
 }
@@ -152,6 +134,29 @@ constexpr std::string_view BoxText = "Box\r\nother:确定\r\nother:text";
 constexpr std::string_view ErrorText = "Box\r\nother:确定\r\nother:'abc' is not a valid integer value.";
 constexpr std::string_view FormText = "Box\r\nTButton:Fine";
 
+/// How the application comes to show a window of the title Box, and how that window goes away again.
+struct TSituation {
+    std::string_view Name;
+    /// What the button Go of the main form does.
+    std::function<void(TLiveHost&)> Go = Box;
+    std::vector<std::string_view> Forms = {MainForm};
+    /// What happens before; then Go is its matter, too.
+    std::function<void(TLiveHost&)> Prepare = {};
+    /// The request that sets it off, without options.
+    std::string_view Request = "Go$Click";
+    /// What the journal says when the window comes.
+    std::string_view Shown = "show #32770 Box";
+    /// Ends what the situation began; the call, if it waits, goes on.
+    std::function<void(TLiveHost&)> End = &TLiveHost::CloseBoxes;
+    /// The window comes when this much time has passed since the call; 0: during the call.
+    std::uint32_t Delay = 0;
+    /// The window's description.
+    std::string_view Description = BoxText;
+    /// True, on the user-interface thread, once whoever shows the window has come back from showing it;
+    /// needed where that is another thread.
+    std::function<bool(TLiveHost&)> IsShown = {};
+};
+
 /// The window's size, from whichever scene saw it last: where it is closed at once it can only be remembered.
 std::string& SizeOf(const TSituation& situation) {
     static std::map<std::string_view, std::string> sizes;
@@ -164,7 +169,7 @@ class TScene {
         : FSituation(situation),
           FTexts{std::string(situation.Request) + std::string(option), std::string(situation.Description)},
           FHost(situation.Forms) {
-        situation.Prepare(FHost);
+        situation.Prepare ? situation.Prepare(FHost) : DefineGo(FHost, situation.Go);
         FHost.Kernel().SetGate(false);
         FAnswer = std::async(std::launch::async, [this] { return FHost.Ask(FTexts.Request); });
     }
@@ -196,7 +201,9 @@ class TScene {
             FHost.Clock().Advance(Hour);
             EndPhase('H');
         }
-        return FResult + " | " + (box ? "up" : "gone") + Picture() + " | " + FNext + " | " + Stack();
+        const auto folder = FHost.Folder() / ("RUX_" + std::to_string(FHost.Port())) / "UnExpectWindowPic";
+        return FResult + " | " + (box ? "up" : "gone") + FTexts.Pictures(folder, SizeOf(FSituation)) + " | " +
+               FNext + " | " + Stack();
     }
 
  private:
@@ -207,21 +214,17 @@ class TScene {
         if (phase == FAnswerTime) {
             if (FAnswer.wait_for(std::chrono::seconds(20)) != std::future_status::ready)
                 throw std::runtime_error("no answer to " + FTexts.Request);
-            FResult = phase + (" " + Short(FAnswer.get()));
-            FNext = Short(FHost.Ask("nothing$Find"));
+            FResult = phase + (" " + FTexts.Short(FAnswer.get()));
+            FNext = FTexts.Short(FHost.Ask("nothing$Find"));
         } else if (!FResult.empty()) {
-            if (const std::string next = Short(FHost.Ask("nothing$Find")); next != "ok") FNext += ", " + next;
+            if (const std::string next = FTexts.Short(FHost.Ask("nothing$Find")); next != "ok")
+                FNext += ", " + next;
         } else if (FAnswer.wait_for(std::chrono::seconds(0)) == std::future_status::ready) {
             FResult = "too early";
         }
         FHost.Kernel().SetGate(false);
     }
 
-    std::string Short(const std::string& answer) const { return FTexts.Short(answer); }
-    std::string Picture() const {
-        const auto folder = FHost.Folder() / ("RUX_" + std::to_string(FHost.Port())) / "UnExpectWindowPic";
-        return FTexts.Pictures(folder, SizeOf(FSituation));
-    }
     std::string Stack() {
         const std::size_t left = FHost.Engine().RequestStack.Count();
         return FTexts.Popped(FHost.Log()) + (left ? ", left " + std::to_string(left) : "");
@@ -235,106 +238,29 @@ class TScene {
     std::string FResult, FNext;
 };
 
-}  // namespace
-
-void CloseBoxes(TLiveHost& host) {
-    host.Run([&] {
-        host.Desktop().EnumWindows([&](HWnd window) {
-            if (host.Desktop().GetClassNameA(window) == "#32770")
-                host.Desktop().PostMessageA(window, WM_CLOSE, 0, 0);
-            return true;
-        });
-    });
-}
-
-namespace {
-
 const std::vector<TSituation>& Situations() {
+    using H = TLiveHost;
+    // clang-format off
     static const std::vector<TSituation> all{
-        {"message box",
-         "Go$Click",
-         {MainForm},
-         [](TLiveHost& h) { DefineGo(h, Box); },
-         "show #32770 Box",
-         CloseBoxes,
-         0,
-         BoxText},
-        {"modal form",
-         "Go$Click",
-         {MainForm, DialogForm},
-         [](TLiveHost& h) { DefineGo(h, [](TLiveHost& host) { FormNamed(host, "Dialog").ShowModal(); }); },
-         "show TDialog Box",
-         [](TLiveHost& h) { h.Run([&] { FormNamed(h, "Dialog").Close(); }); },
-         0,
-         FormText},
-        {"box on a modal form",
-         "Go$Click",
-         {MainForm, BaseForm},
-         PrepareBoxOnModal,
-         "show #32770 Box",
-         EndBoxOnModal,
-         0,
-         BoxText},
-        {"box after the call",
-         "Go$Click",
-         {MainForm},
-         [](TLiveHost& h) {
-             DefineGo(h, [](TLiveHost& host) { After(host, Delay, [&host] { Box(host); }); });
-         },
-         "show #32770 Box",
-         CloseBoxes,
-         Delay,
-         BoxText},
-        {"exception in the send",
-         "Pad$DbClick",
-         {MainForm},
-         [](TLiveHost& h) { DefineGo(h, FailWith); },
-         "show #32770 Box",
-         CloseBoxes,
-         0,
-         ErrorText},
-        {"exception that leaves the call",
-         "Go$Click",
-         {MainForm},
-         [](TLiveHost& h) { DefineGo(h, FailWith); },
-         "show #32770 Box",
-         CloseBoxes,
-         0,
-         ErrorText},
-        {"box closed by the application",
-         "Go$Click",
-         {MainForm},
-         [](TLiveHost& h) {
-             DefineGo(h, [](TLiveHost& host) {
-                 After(host, Delay, [&host] { CloseBoxes(host); });
-                 Box(host);
-             });
-         },
-         "show #32770 Box",
-         [](TLiveHost& h) { Elapse(h, Delay); },
-         0,
-         BoxText},
-        {"MDI child",
-         "Go$Click",
-         {FrameForm, ChildForm},
-         [](TLiveHost& h) { DefineGo(h, [](TLiveHost& host) { FormNamed(host, "Child").Show(); }); },
-         "event Main.Go",
-         [](TLiveHost&) {},
-         0,
-         FormText},
-        {"box on a second thread",
-         "Go$Click",
-         {MainForm},
-         [](TLiveHost& h) { DefineGo(h, BoxOnSecondThread); },
-         "show #32770 Box",
-         [](TLiveHost& h) {
-             CloseBoxes(h);
-             AwaitHandlers(h);
-         },
-         0,
-         BoxText,
-         ActiveOrGone},
+        {.Name = "message box"},
+        {.Name = "modal form", .Go = [](H& host) { FormNamed(host, "Dialog").ShowModal(); },
+         .Forms = {MainForm, DialogForm}, .Shown = "show TDialog Box",
+         .End = [](H& host) { host.Run([&] { FormNamed(host, "Dialog").Close(); }); }, .Description = FormText},
+        {.Name = "box on a modal form", .Forms = {MainForm, BaseForm}, .Prepare = PrepareBoxOnModal,
+         .End = EndBoxOnModal},
+        {.Name = "box after the call", .Go = [](H& host) { After(host, Delay, [&host] { Box(host); }); },
+         .Delay = Delay},
+        {.Name = "exception in the send", .Go = FailWith, .Request = "Pad$DbClick", .Description = ErrorText},
+        {.Name = "exception that leaves the call", .Go = FailWith, .Description = ErrorText},
+        {.Name = "box closed by the application",
+         .Go = [](H& host) { After(host, Delay, [&host] { host.CloseBoxes(); }), Box(host); },
+         .End = [](H& host) { Elapse(host, Delay); }},
+        {.Name = "MDI child", .Go = [](H& host) { FormNamed(host, "Child").Show(); },
+         .Forms = {FrameForm, ChildForm}, .Shown = "event Main.Go", .End = [](H&) {}, .Description = FormText},
+        {.Name = "box on a second thread", .Go = BoxOnSecondThread,
+         .End = [](H& host) { host.CloseBoxes(), AwaitHandlers(host); }, .IsShown = ActiveOrGone},
     };
+    // clang-format on
     return all;
 }
 

@@ -1,5 +1,5 @@
-// The agent inside Windows programs: native controls, a box that was there before, notepad, the registry
-// editor, code pages, and hosts that it comes into and leaves.
+// The agent inside Windows programs: native controls, questions, notepad, the registry
+// editor, code pages.
 #include <gtest/gtest.h>
 
 #include <numeric>
@@ -51,7 +51,7 @@ class TWinePrograms : public testing::Test {
 
 TEST_F(TWinePrograms, NativeControls) {
     TWineRun run(HostArguments({"fixture"}));
-    run.TellUntil("size 原生", [](const std::string& size) { return size != "none"; });
+    run.AwaitWindow("原生");
     run.Tell("notes");
     for (const TVirtualRow& row : VirtualRows()) {
         if (row.InMemory) continue;
@@ -81,7 +81,7 @@ Box$Find => 211 False
 
 TEST_F(TWinePrograms, QuestionsAndBoxesOnBoxes) {
     TWineRun run(HostArguments({"main", "go yesno"}));
-    run.TellUntil("size Main", [](const std::string& size) { return size != "none"; });
+    run.AwaitWindow("Main");
     Play(run, R"(Go$Click?PopupWindow=Box => 213 Box
 Main/Go$Find => 211 False
 是?Button$Click => 212
@@ -162,7 +162,7 @@ TEST_F(TWinePrograms, CodePages) {
     };
     for (const TRow& row : rows) {
         TWineRun run(HostArguments({"main"}), row.Language);
-        run.TellUntil("size Main", [](const std::string& size) { return size != "none"; });
+        run.AwaitWindow("Main");
         EXPECT_EQ(run.Tell("codepage"), row.Page);
         EXPECT_EQ(run.Tell("title Zoé"), "done");
         const std::string answer = run.Ask("Café$Click");
@@ -174,35 +174,6 @@ TEST_F(TWinePrograms, CodePages) {
         EXPECT_EQ(PictureNames(run), "Zoé_Café$Click.jpg many;");
         EXPECT_EQ(run.Tell("close Zoé"), "posted");
     }
-}
-
-TEST_F(TWinePrograms, HostWithoutTheToolkit) {
-    TWineRun run(HostArguments({"--no-standin"}));
-    run.TellUntil("size RUX", [](const std::string& size) { return size != "none"; });
-    EXPECT_EQ(run.Tell("close RUX"), "posted");
-    EXPECT_TRUE(run.Outcome().ends_with("= 254"));
-}
-
-// From inside, on a thread of no windows and then on the user interface's. A port is the process's until that
-// ends, so that the library comes to another one the second time.
-TEST_F(TWinePrograms, ComesAndGoesTwice) {
-    TWineRun run({"testhost.exe", "--control", ControlPort});
-    const std::string procedure = run.Tell("procedure"), code = run.Tell("showwindow");
-    int round = 0;
-    for (const std::string where : {"", "-there"}) {
-        EXPECT_EQ(run.Tell("load" + where + " rux.dll"), "loaded");
-        const auto port = static_cast<std::uint16_t>(run.Port() + round++);
-        EXPECT_EQ(TWineRequest(port, "App$Find").Answer(), "211 成功返回\nTrue");
-        EXPECT_NE(run.Tell("procedure"), procedure);
-        EXPECT_NE(run.Tell("showwindow"), code);
-        EXPECT_EQ(run.Tell("free" + where + " rux.dll"), "freed");
-        // Whoever is inside may leave first.
-        run.TellUntil("loaded rux.dll", [](const std::string& loaded) { return loaded == "no"; });
-        EXPECT_EQ(run.Tell("procedure"), procedure);
-        EXPECT_EQ(run.Tell("showwindow"), code);
-    }
-    run.Tell("end 3");
-    EXPECT_TRUE(run.Outcome().ends_with("= 3"));
 }
 
 }  // namespace rux::test

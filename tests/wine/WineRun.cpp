@@ -2,7 +2,6 @@
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
-#include <poll.h>
 #include <sys/socket.h>
 
 #include <cstdlib>
@@ -27,21 +26,12 @@ std::string Variable(const char* name) {
     return value ? value : "";
 }
 
-sockaddr_in Loopback(std::uint16_t port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    return address;
-}
-
-/// On a port that the system chooses.
+/// On a port that the system chooses. Nobody waits on it, or on what it accepts, beyond all patience.
 int Listen() {
     const int listening = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const sockaddr_in address = Loopback(0);
-    if (bind(listening, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-        listen(listening, 1) != 0)
-        throw std::runtime_error("no port for the control line");
+    const timeval limit{Patience.count(), 0};
+    setsockopt(listening, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+    if (listen(listening, 1) != 0) throw std::runtime_error("no port for the control line");
     return listening;
 }
 
@@ -80,102 +70,36 @@ std::string WhyNoWine() {
     return {};
 }
 
-// ------------------------------------------------------------------------------------------ connections
-
-TConnection TConnection::To(std::uint16_t port) {
-    TConnection result(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    const sockaddr_in address = Loopback(port);
-    if (connect(result.FSocket, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0)
-        close(std::exchange(result.FSocket, -1));
-    return result;
+TWineRequest::TWineRequest(std::uint16_t port, std::string_view request) {
+    const auto ask = [port, text = std::string(request)]() -> std::optional<std::string> {
+        try {
+            THttpClient client("127.0.0.1", port);
+            client.SetTimeout(Patience.count());
+            const THttpReply reply = client.Get(text);
+            return std::to_string(reply.Status) + " " + reply.Comment +
+                   (reply.Body.empty() ? "" : "\n" + reply.Body);
+        } catch (const THttpClientError& error) {
+            if (std::string_view(error.what()).starts_with("nothing answers")) return {};
+            throw std::runtime_error(text + ": " + error.what());
+        }
+    };
+    std::packaged_task<std::string()> task([ask] { return Await("the agent's port", ask).value(); });
+    FAnswer = task.get_future();
+    std::thread(std::move(task)).detach();  // whoever leaves it unanswered does not wait for it
 }
-
-TConnection::~TConnection() {
-    if (IsOpen()) close(FSocket);
-}
-
-void TConnection::Send(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t sent = send(FSocket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (sent <= 0) throw std::runtime_error("the connection broke while sending");
-        bytes.remove_prefix(static_cast<std::size_t>(sent));
-    }
-}
-
-bool TConnection::HasMore(std::chrono::milliseconds patience) {
-    pollfd waiting{FSocket, POLLIN, 0};
-    return !FBuffer.empty() || poll(&waiting, 1, static_cast<int>(patience.count())) > 0;
-}
-
-void TConnection::Fill() {
-    pollfd waiting{FSocket, POLLIN, 0};
-    if (poll(&waiting, 1, static_cast<int>(Patience.count())) <= 0)
-        throw std::runtime_error("nothing comes within " + std::to_string(Patience.count()) + " ms");
-    char piece[4096];
-    const ssize_t got = recv(FSocket, piece, sizeof piece, 0);
-    if (got <= 0) throw TConnectionEnded("the connection has ended");
-    FBuffer.append(piece, static_cast<std::size_t>(got));
-}
-
-std::string TConnection::ReadUntil(std::string_view end) {
-    std::size_t at;
-    while ((at = FBuffer.find(end)) == FBuffer.npos) Fill();
-    const std::string text = FBuffer.substr(0, at);
-    FBuffer.erase(0, at + end.size());
-    return text;
-}
-
-std::string TConnection::Read(std::size_t count) {
-    while (FBuffer.size() < count) Fill();
-    const std::string text = FBuffer.substr(0, count);
-    FBuffer.erase(0, count);
-    return text;
-}
-
-// ------------------------------------------------------------------------------------------ requests
-
-namespace {
-
-std::optional<TConnection> Reached(std::uint16_t port) {
-    TConnection connection = TConnection::To(port);
-    if (!connection.IsOpen()) return {};
-    return connection;
-}
-
-}  // namespace
-
-TWineRequest::TWineRequest(std::uint16_t port, std::string_view request)
-    : FConnection(Await("the agent's port", [&] { return Reached(port); }).value()), FRequest(request) {
-    FConnection.Send("GET /" + EncodeRequest(request) + " HTTP/1.1\r\nConnection: close\r\n\r\n");
-}
-
-std::string TWineRequest::Answer() {
-    try {
-        const std::string head = FConnection.ReadUntil("\r\n\r\n") + "\r\n";
-        const auto field = [&](std::string_view name) {
-            const std::size_t at = head.find(name);
-            const std::size_t begin = at + name.size();
-            return at == head.npos ? std::string() : head.substr(begin, head.find("\r\n", begin) - begin);
-        };
-        const std::string body = FConnection.Read(std::stoul("0" + field("Content-length: ")));
-        return field("HTTP/1.1 ") + " " + field("ReturnCodeComment:") + (body.empty() ? "" : "\n" + body);
-    } catch (const std::runtime_error& error) {
-        throw std::runtime_error(FRequest + ": " + error.what());
-    }
-}
-
-// ------------------------------------------------------------------------------------------ runs
 
 TWineRun::TWineRun(const TArgs& arguments, const std::string& language) : FListening(Listen()) {
     for (const char* name : Programs)
         fs::copy_file(fs::path(Variable(BuildVariable)) / name, FFolder.Path(name));
     TArgs command = Command(language) + TArgs{FFolder.Path("inject.exe")};
     for (const std::string& argument : arguments)
-        command.push_back(argument == ControlPort ? std::to_string(PortOf(FListening.Handle())) : argument);
+        command.push_back(argument == ControlPort ? std::to_string(PortOf(FListening)) : argument);
     FProgram = std::make_unique<TProgram>(command);
 }
 
-TWineRun::~TWineRun() = default;
+TWineRun::~TWineRun() {
+    close(FListening);
+}
 
 std::filesystem::path TWineRun::WorkFolder() {
     return FFolder.Path("RUX_" + std::to_string(Port()));
@@ -194,17 +118,16 @@ std::uint16_t TWineRun::Port() {
 }
 
 std::string TWineRun::Tell(const std::string& command) {
-    if (!FControl) {
-        if (!FListening.HasMore(Patience)) throw std::runtime_error("no control line");
-        FControl =
-            std::make_unique<TConnection>(accept4(FListening.Handle(), nullptr, nullptr, SOCK_CLOEXEC));
-    }
-    FControl->Send(command + "\n");
-    try {
-        return FControl->ReadUntil("\n");
-    } catch (const TConnectionEnded&) {
+    if (!FControl) FControl.reset(fdopen(accept4(FListening, nullptr, nullptr, SOCK_CLOEXEC), "r"));
+    if (!FControl) throw std::runtime_error("no control line");
+    send(fileno(FControl.get()), (command + "\n").data(), command.size() + 1, MSG_NOSIGNAL);
+    std::string answer;
+    for (int c; (c = std::fgetc(FControl.get())) != '\n'; answer += static_cast<char>(c)) {
+        if (c != EOF) continue;
+        if (std::ferror(FControl.get())) throw std::runtime_error(command + ": no answer");
         throw std::runtime_error(command + ": the program has ended: " + Outcome());
     }
+    return answer;
 }
 
 std::string TWineRun::TellUntil(const std::string& command,

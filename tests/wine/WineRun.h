@@ -3,8 +3,10 @@
 #pragma once
 
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
 #include <functional>
+#include <future>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -14,56 +16,24 @@
 
 namespace rux::test {
 
-inline constexpr std::chrono::milliseconds Patience{20000};
+inline constexpr std::chrono::seconds Patience{20};
 
 /// Why Windows programs cannot be run here; empty when they can.
 std::string WhyNoWine();
-
-/// The other side of a connection has gone.
-struct TConnectionEnded : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-/// A stream socket on which nobody waits longer than he says.
-class TConnection {
- public:
-    explicit TConnection(int socket) : FSocket(socket) {}
-    /// To a port of this machine; no socket where nobody listens.
-    static TConnection To(std::uint16_t port);
-    TConnection(TConnection&& other) noexcept
-        : FSocket(std::exchange(other.FSocket, -1)), FBuffer(std::move(other.FBuffer)) {}
-    TConnection(const TConnection&) = delete;
-    TConnection& operator=(const TConnection&) = delete;
-    ~TConnection();
-
-    bool IsOpen() const { return FSocket >= 0; }
-    int Handle() const { return FSocket; }
-    void Send(std::string_view bytes);
-    /// Something can be read, or the other side has gone.
-    bool HasMore(std::chrono::milliseconds patience);
-    /// What comes in front of `end`, which is dropped. Raises std::runtime_error when it does not come.
-    std::string ReadUntil(std::string_view end);
-    std::string Read(std::size_t count);
-
- private:
-    void Fill();
-
-    int FSocket;
-    std::string FBuffer;
-};
 
 /// A request under way. It may be left unanswered.
 class TWineRequest {
  public:
     /// Waits until somebody listens there.
     TWineRequest(std::uint16_t port, std::string_view request);
-    bool IsAnswered(std::chrono::milliseconds patience) { return FConnection.HasMore(patience); }
+    bool IsAnswered(std::chrono::milliseconds patience) {
+        return FAnswer.wait_for(patience) == std::future_status::ready;
+    }
     /// "212 成功", and the text behind a line feed if there is one.
-    std::string Answer();
+    std::string Answer() { return FAnswer.get(); }
 
  private:
-    TConnection FConnection;
-    const std::string FRequest;
+    std::future<std::string> FAnswer;
 };
 
 /// Stands among a run's arguments for the port of the control line.
@@ -83,6 +53,9 @@ class TWineRun {
     std::string Tell(const std::string& command);
     /// Asks until the answer satisfies.
     std::string TellUntil(const std::string& command, const std::function<bool(const std::string&)>& good);
+    void AwaitWindow(const std::string& title) {
+        TellUntil("size " + title, [](const std::string& size) { return size != "none"; });
+    }
 
     std::filesystem::path Folder() const { return FFolder.Path(""); }
     std::filesystem::path WorkFolder();
@@ -96,8 +69,8 @@ class TWineRun {
 
  private:
     TTempFolder FFolder;
-    TConnection FListening;
-    std::unique_ptr<TConnection> FControl;
+    const int FListening;
+    std::unique_ptr<FILE, int (*)(FILE*)> FControl{nullptr, &std::fclose};
     std::unique_ptr<TProgram> FProgram;
     std::uint16_t FPort = 0;
 };

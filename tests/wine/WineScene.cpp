@@ -61,7 +61,7 @@ class TScene {
         : FSituation(situation),
           FTexts{std::string(situation.Request) + std::string(option), std::string(situation.Description)},
           FHost(*Host()) {
-        FHost.TellUntil("size Main", [](const std::string& size) { return size != "none"; });
+        FHost.AwaitWindow("Main");
         FHost.Tell("go " + std::string(situation.Go));
         FHost.Tell("notes");
         if (!situation.Base.empty()) FHost.Ask("Open$Click?PopupWindow=" + std::string(situation.Base));

@@ -8,6 +8,9 @@ namespace rux {
 
 namespace {
 
+/// Milliseconds.
+constexpr DWORD StartLimit = 10000;
+
 constexpr unsigned Patience = 30000, Step = 20;
 
 [[noreturn]] void Fail(const std::string& what) {
@@ -41,6 +44,8 @@ TTarget TTarget::Start(const std::string& commandLine) {
     if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how, &started))
         Fail("cannot start " + commandLine);
     CloseHandle(started.hThread);
+    // Before it waits for input it has no windows, and not all of its own modules.
+    WaitForInputIdle(started.hProcess, StartLimit);
     return {started.hProcess, started.dwProcessId};
 }
 

@@ -20,7 +20,7 @@ constexpr const char* Usage =
     R"(usage: inject [options] PROGRAM [ARGUMENTS]
        inject [options] --pid N
 
-Loads modules into PROGRAM, which it starts, or into the process N. Says for each what the thread that loaded
+Loads modules into PROGRAM, which it starts and lets come to rest, or into the process N. Says for each what the thread that loaded
 it ended with, and waits for the end of a program that it started.
 
   --load FILE          a module; repeatable, in this order

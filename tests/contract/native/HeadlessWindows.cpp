@@ -32,15 +32,17 @@ class THeadlessWindows final : public TWindowsUnderTest {
         const HWnd native = CreateNativeWindow(FDesktop, window.ClassName, window.Text, window.Style,
                                                window.Parent, window.Rect);
         if (native) return native;
-        HCreateParams params;
-        params.ClassName = window.ClassName;
-        params.Text = window.Text;
-        params.Style = window.Style;
-        params.ExStyle = window.ExStyle;
-        params.Parent = window.Parent;
-        params.Rect = window.Rect;
-        if (params.ClassName == "Painted") params.OwnedTarget = std::make_shared<TPaintedTarget>(FDesktop);
-        return FDesktop.CreateWindowA(params);
+        const bool painted = std::string_view(window.ClassName) == "Painted";
+        return FDesktop.CreateWindowA({window.ClassName,
+                                       window.Text,
+                                       window.Style,
+                                       window.ExStyle,
+                                       window.Parent,
+                                       window.Rect,
+                                       {},
+                                       0,
+                                       nullptr,
+                                       painted ? std::make_shared<TPaintedTarget>(FDesktop) : nullptr});
     }
     void Destroy(HWnd window) override { FDesktop.DestroyWindow(window); }
     void Show(HWnd window, TShowCommand command) override { FDesktop.ShowWindow(window, command); }

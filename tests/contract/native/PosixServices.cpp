@@ -4,41 +4,10 @@
 #include "platform/posix/ManualClock.h"
 #include "platform/posix/PosixPlatform.h"
 #include "platform/posix/SystemNames.h"
-#include "rtl/Exceptions.h"
 #include "support/PosixGround.h"
 
 namespace rux::test {
 namespace {
-
-/// Tells by '+' or '-' whether it was the first.
-class TPosixMutexHolder final : public TMutexHolder {
- public:
-    TPosixMutexHolder(const std::string& folder, const std::string& name)
-        : FProcess([&] {
-              TNamedObjects objects(folder);
-              const char answer = objects.CreateMutex(name) ? '+' : '-';
-              if (::write(FPipe.Ends[1], &answer, 1) == 1) ::pause();
-              return 0;
-          }) {
-        if (::read(FPipe.Ends[0], &FAnswer, 1) != 1) throw Exception("no answer");
-    }
-    ~TPosixMutexHolder() override {
-        FProcess.Kill();
-        ::close(FPipe.Ends[0]);
-        ::close(FPipe.Ends[1]);
-    }
-    bool Made() const override { return FAnswer == '+'; }
-
- private:
-    struct TPipe {
-        TPipe() {
-            if (::pipe(Ends) != 0) throw Exception("no pipe");
-        }
-        int Ends[2];
-    } FPipe;
-    TProcess FProcess;
-    char FAnswer = '?';
-};
 
 /// What must be there before the services.
 struct TPosixGround {
@@ -50,9 +19,7 @@ struct TPosixGround {
 
 class TPosixUnderTest final : TPosixGround, public TPlatformUnderTest {
  public:
-    TPosixUnderTest() : TPlatformUnderTest(Services.Kernel, Services.Sockets, Services.Files) {}
-    std::uint32_t Long() const override { return 3600000; }
-    std::uint32_t Margin() const override { return 1; }
+    TPosixUnderTest() : TPlatformUnderTest(Services.Kernel, Services.Sockets, Services.Files, 3600000, 1) {}
     std::uint64_t Tick() override { return Clock.TickCount(); }
     void Advance(std::uint64_t milliseconds) override { Clock.Advance(milliseconds); }
     void WaitUntilWaiters(std::size_t count, std::uint64_t notBefore) override {
@@ -69,9 +36,6 @@ class TPosixUnderTest final : TPosixGround, public TPlatformUnderTest {
     void RemoveMapping(const std::string& name) override {
         Services.Kernel.NamedObjects().RemoveMapping(name);
     }
-    std::unique_ptr<TMutexHolder> HoldMutex(const std::string& name) override {
-        return std::make_unique<TPosixMutexHolder>(Objects.Path, name);
-    }
     TLocaleFacts Locale() const override { return {}; }
     TSocketHandle Connect(std::uint16_t port) override { return ConnectTo("127.0.0.1", port); }
 };
@@ -84,5 +48,15 @@ std::unique_ptr<TPlatformUnderTest> MakePosix() {
 }  // namespace
 
 INSTANTIATE_TEST_SUITE_P(Posix, BoundaryContract, testing::Values(&MakePosix));
+
+class PosixHost : public BoundaryContract {};
+INSTANTIATE_TEST_SUITE_P(Posix, PosixHost, testing::Values(&MakePosix));
+
+TEST_P(PosixHost, ListensWhereItAllows) {
+    std::uint16_t port = 0;
+    const auto listener = Listener(port);
+    EXPECT_TRUE(TFileDescriptor(static_cast<int>(ConnectTo("127.0.0.1", port))));
+    EXPECT_EQ(ConnectTo("127.0.0.2", port), INVALID_SOCKET);
+}
 
 }  // namespace rux::test

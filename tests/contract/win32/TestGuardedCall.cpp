@@ -3,9 +3,8 @@
 
 #include "platform/win32/Win32Code.h"
 #include "rtl/Exceptions.h"
-// clang-format off
+// After the boundary.
 #include "platform/win32/Headers.h"
-// clang-format on
 
 namespace rux::test {
 

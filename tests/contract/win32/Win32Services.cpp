@@ -1,9 +1,7 @@
 // The services of Windows in real time, and what is Windows's own.
-#include <gtest/gtest.h>
 
 #include <array>
 #include <ctime>
-#include <map>
 
 #include "contract/BoundaryContract.h"
 #include "platform/win32/Win32Clock.h"
@@ -20,9 +18,6 @@
 namespace rux::test {
 namespace {
 
-constexpr const char* ChildMutex = "RUX_TEST_MUTEX";
-constexpr DWORD ChildPatience = 30000;
-
 /// A running program; none when it cannot be started.
 TWin32Handle Start(std::string line, const char* folder = nullptr) {
     STARTUPINFOA start{};
@@ -34,48 +29,15 @@ TWin32Handle Start(std::string line, const char* folder = nullptr) {
     return TWin32Handle(made.hProcess);
 }
 
-/// Starts this program once more, for one test of its own alone.
-class TWin32MutexHolder final : public TMutexHolder {
- public:
-    explicit TWin32MutexHolder(const std::string& name) {
-        const TWin32Handle made = Answer('+'), found = Answer('-');
-        ::SetEnvironmentVariableA(ChildMutex, name.c_str());
-        char program[MAX_PATH];
-        ::GetModuleFileNameA(nullptr, program, sizeof program);
-        FProcess = Start('"' + std::string(program) +
-                         "\" --gtest_filter=Win32Child.* --gtest_also_run_disabled_tests --gtest_brief=1");
-        const HANDLE any[] = {made.Get(), found.Get(), FProcess.Get()};
-        const DWORD which = ::WaitForMultipleObjects(3, any, FALSE, ChildPatience);
-        if (which > WAIT_OBJECT_0 + 1) throw Exception("no answer of a second process");
-        FMade = which == WAIT_OBJECT_0;
-    }
-    ~TWin32MutexHolder() override {
-        ::TerminateProcess(FProcess.Get(), 1);
-        ::WaitForSingleObject(FProcess.Get(), ChildPatience);
-    }
-    bool Made() const override { return FMade; }
-
-    static TWin32Handle Answer(char answer) {
-        return TWin32Handle(
-            ::CreateEventA(nullptr, FALSE, FALSE, (std::string("RUX.test.answer") + answer).c_str()));
-    }
-
- private:
-    TWin32Handle FProcess;
-    bool FMade = false;
-};
-
 class TWin32UnderTest final : public TPlatformUnderTest {
  public:
-    TWin32UnderTest() : TPlatformUnderTest(FKernel, FSockets, FFiles) {
+    TWin32UnderTest() : TPlatformUnderTest(FKernel, FSockets, FFiles, 1000, 500) {
         char folder[MAX_PATH];
         ::GetTempPathA(sizeof folder, folder);
         FFolder = folder + std::string("rux-test-") + std::to_string(::GetCurrentProcessId());
         FFiles.ForceDirectories(FFolder);
     }
     ~TWin32UnderTest() override { FFiles.DeleteTree(FFolder); }
-    std::uint32_t Long() const override { return 1000; }
-    std::uint32_t Margin() const override { return 500; }
     std::uint64_t Tick() override { return FClock.TickCount(); }
     void Advance(std::uint64_t milliseconds) override { ::Sleep(static_cast<DWORD>(milliseconds)); }
     void WaitUntilWaiters(std::size_t, std::uint64_t) override { ::Sleep(60); }
@@ -93,9 +55,6 @@ class TWin32UnderTest final : public TPlatformUnderTest {
         FMappings[name] = std::move(mapping);
     }
     void RemoveMapping(const std::string& name) override { FMappings.erase(name); }
-    std::unique_ptr<TMutexHolder> HoldMutex(const std::string& name) override {
-        return std::make_unique<TWin32MutexHolder>(name);
-    }
     TSocketHandle Connect(std::uint16_t port) override;
     TLocaleFacts Locale() const override { return LoadLocaleFacts(); }
 
@@ -135,15 +94,6 @@ std::string Formatted(decltype(&::GetDateFormatA) format, const SYSTEMTIME& mome
 
 INSTANTIATE_TEST_SUITE_P(Win32, BoundaryContract, testing::Values(&MakeWin32));
 
-TEST(Win32Child, DISABLED_HoldsAMutex) {
-    char name[MAX_PATH] = "";
-    ASSERT_NE(::GetEnvironmentVariableA(ChildMutex, name, sizeof name), 0u)
-        << "is run by another process only";
-    const TWin32Handle answer = TWin32MutexHolder::Answer(CreateNamedMutex(name) ? '+' : '-');
-    ::SetEvent(answer.Get());
-    ::Sleep(ChildPatience);
-}
-
 TEST(Win32Clock, TicksGoOnWhereTheSystemsStartAgain) {
     TWideTick tick;
     const std::pair<std::uint32_t, std::uint64_t> rows[] = {
@@ -177,6 +127,19 @@ TEST(Win32Kernel, KnowsItsModulesAndItsMemory) {
     ::VirtualFree(memory, 0, MEM_RELEASE);
     ASSERT_TRUE(before && after);
     EXPECT_GE(*after, *before + size);
+}
+
+TEST(Win32Kernel, AMutexIsTheSystemsAndThereAsLongAsTheLastWhoHoldsIt) {
+    TWin32Kernel kernel;
+    constexpr const char* name = "{CB35D3B5-7016}.4441";
+    TWin32Handle foreign(::CreateMutexA(nullptr, FALSE, name));
+    EXPECT_TRUE(kernel.OpenMutexA(name));
+    foreign.Close();
+    EXPECT_FALSE(kernel.OpenMutexA(name));
+    foreign = TWin32Handle(::CreateMutexA(nullptr, FALSE, name));
+    EXPECT_FALSE(kernel.CreateMutexA(name));
+    foreign.Close();
+    EXPECT_TRUE(TWin32Handle(::OpenMutexA(SYNCHRONIZE, FALSE, name)));
 }
 
 TEST(Win32Kernel, BytesOfAMappingThatAreNotThereAreNoFault) {
@@ -230,7 +193,7 @@ TEST(Win32Files, ATreeGoesWithoutWhatItsLinksLeadTo) {
     // Windows's own way, and that of systems which only look like it.
     for (const char* line :
          {"cmd /c mklink /J tree\\a\\link outside >nul 2>nul", "Z:\\bin\\ln -s ../../outside tree/a/link"})
-        ::WaitForSingleObject(Start(line, folder.c_str()).Get(), ChildPatience);
+        ::WaitForSingleObject(Start(line, folder.c_str()).Get(), 30000);
     const std::string through = folder + "\\tree\\a\\link\\kept";
     // The end of a program that is none of Windows is not told.
     for (int i = 0; i < 100 && !files.FileExists(through); ++i) ::Sleep(20);

@@ -1,13 +1,11 @@
 // The system's windows as a platform under test.
 #include <algorithm>
-#include <map>
 
 #include "contract/WindowContract.h"
 #include "platform/win32/Win32Code.h"
 #include "platform/win32/Win32Windows.h"
-// clang-format off
+// After the boundary.
 #include "platform/win32/Headers.h"
-// clang-format on
 
 namespace rux::test {
 

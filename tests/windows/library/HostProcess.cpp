@@ -3,9 +3,6 @@
 #include <tlhelp32.h>
 #include <ws2tcpip.h>
 
-#include <chrono>
-#include <cstdio>
-
 namespace rux::test {
 
 namespace {
@@ -14,11 +11,8 @@ constexpr unsigned GoButton = 1, HangButton = 2;
 HANDLE Hanging = nullptr;
 
 template <class Condition>
-bool Await(unsigned seconds, Condition&& condition) {
-    for (unsigned i = 0; i < seconds * 100; ++i) {
-        if (condition()) return true;
-        ::Sleep(10);
-    }
+bool Await(Condition&& condition) {
+    for (unsigned i = 0; i < 1000 && !condition(); ++i) ::Sleep(10);
     return condition();
 }
 
@@ -43,30 +37,10 @@ HWND Register(const char* name, WNDPROC procedure, DWORD style, int size) {
                            nullptr);
 }
 
-sockaddr_in Loopback(std::uint16_t port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    return address;
-}
-
-SOCKET Open(std::uint16_t port) {
-    const SOCKET made = ::socket(AF_INET, SOCK_STREAM, 0);
-    const sockaddr_in address = Loopback(port);
-    if (::connect(made, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) return made;
-    ::closesocket(made);
-    return INVALID_SOCKET;
-}
-
 }  // namespace
 
-LRESULT CALLBACK THostThread::ApplicationProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return ::DefWindowProcA(window, message, wParam, lParam);
-}
-
 void THostThread::Live(HANDLE ready) {
-    FApplication = Register("TApplication", &ApplicationProc, WS_POPUP | WS_VISIBLE, 0);
+    FApplication = Register("TApplication", &::DefWindowProcA, WS_POPUP | WS_VISIBLE, 0);
     const HWND frame = Register("Frame", &FrameProc, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 200);
     const auto button = [&](const char* text, unsigned id, int top) {
         ::CreateWindowA("BUTTON", text, WS_CHILD | WS_VISIBLE, 10, top, 80, 25, frame,
@@ -105,8 +79,8 @@ THostThread::~THostThread() {
     ::CloseHandle(FRelease);
 }
 
-HWND THostThread::AwaitBox(unsigned seconds) {
-    Await(seconds, [] { return Box() != nullptr; });
+HWND THostThread::AwaitBox() {
+    Await([] { return Box() != nullptr; });
     return Box();
 }
 
@@ -117,11 +91,7 @@ TTraces LookAt(const THostThread& host) {
         ::GetProcAddress(::GetModuleHandleA("user32.dll"), "ShowWindow"));
     if (code[0] == 0xFF && code[1] == 0x25)
         code = **reinterpret_cast<const unsigned char* const* const*>(code + 2);
-    for (unsigned i = 0; i < 16; ++i) {
-        char digits[4];
-        std::snprintf(digits, sizeof digits, "%02x", code[i]);
-        traces.ShowWindowBytes += digits;
-    }
+    traces.ShowWindowBytes.assign(code, code + 16);
     return traces;
 }
 
@@ -137,23 +107,16 @@ unsigned CountThreads() {
 }
 
 bool AwaitThreads(unsigned most) {
-    return Await(10, [&] { return CountThreads() <= most; });
+    return Await([&] { return CountThreads() <= most; });
 }
 
 bool AwaitUnloaded() {
-    return Await(10, [] { return ::GetModuleHandleA(LibraryName) == nullptr; });
-}
-
-bool Listens(std::uint16_t port) {
-    const SOCKET made = Open(port);
-    if (made == INVALID_SOCKET) return false;
-    ::closesocket(made);
-    return true;
+    return Await([] { return ::GetModuleHandleA(LibraryName) == nullptr; });
 }
 
 std::uint16_t FindPort() {
     std::uint16_t found = 0;
-    Await(10, [&] {
+    Await([&] {
         for (std::uint16_t port = 4440; port < 4640 && found == 0; ++port)
             if (Listens(port)) found = port;
         return found != 0;
@@ -161,48 +124,43 @@ std::uint16_t FindPort() {
     return found;
 }
 
-TConnection::TConnection(std::uint16_t port) : FSocket(Open(port)) {}
-
-TConnection::~TConnection() {
-    ::closesocket(FSocket);
+TConnection::TConnection(std::uint16_t port) : FSocket(::socket(AF_INET, SOCK_STREAM, 0)) {
+    sockaddr_in to{};
+    to.sin_family = AF_INET;
+    to.sin_port = htons(port);
+    to.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    FOpen = ::connect(FSocket, reinterpret_cast<const sockaddr*>(&to), sizeof to) == 0;
 }
 
-std::optional<std::string> TConnection::Answer(unsigned seconds) {
-    const DWORD limit = seconds * 1000;
-    ::setsockopt(FSocket, SOL_SOCKET, SO_RCVTIMEO, reinterpret_cast<const char*>(&limit), sizeof limit);
-    std::string text;
-    const std::string lengthSign = "Content-length: ";
-    while (true) {
-        const std::size_t end = text.find("\r\n\r\n"), sign = text.find(lengthSign);
-        if (end != text.npos && sign < end) {
-            const std::size_t length = std::stoul(text.substr(sign + lengthSign.size()));
-            if (text.size() >= end + 4 + length)
-                return text.substr(text.find(' ') + 1, 3) + " " + text.substr(end + 4, length);
-        }
-        char piece[4096];
-        const int got = ::recv(FSocket, piece, sizeof piece, 0);
-        if (got <= 0) return std::nullopt;
-        text.append(piece, static_cast<std::size_t>(got));
-    }
-}
-
-bool TConnection::AwaitClosed(unsigned seconds) {
+bool TConnection::Fill(unsigned seconds) {
     const DWORD limit = seconds * 1000;
     ::setsockopt(FSocket, SOL_SOCKET, SO_RCVTIMEO, reinterpret_cast<const char*>(&limit), sizeof limit);
     char piece[4096];
-    int got = 0;
-    while ((got = ::recv(FSocket, piece, sizeof piece, 0)) > 0) {
-    }
-    return got == 0 || ::WSAGetLastError() == WSAECONNRESET;
+    const int got = ::recv(FSocket, piece, sizeof piece, 0);
+    if (got > 0) FText.append(piece, static_cast<std::size_t>(got));
+    FOpen = got > 0 || (got < 0 && ::WSAGetLastError() != WSAECONNRESET);
+    return got > 0;
+}
+
+std::string TConnection::Answer(unsigned seconds) {
+    const std::string sign = "Content-length: ";
+    std::size_t end, length;
+    do {
+        end = FText.find("\r\n\r\n");
+        length = end == FText.npos ? end : std::stoul(FText.substr(FText.find(sign) + sign.size()));
+        if (end != FText.npos && FText.size() >= end + 4 + length)
+            return FText.substr(FText.find(' ') + 1, 3) + " " + FText.substr(end + 4, length);
+    } while (Fill(seconds));
+    return "no answer";
 }
 
 std::string Ask(std::uint16_t port, const std::string& request) {
     TConnection connection(port);
-    connection.Send("GET /" + request + " HTTP/1.1\r\n\r\n");
-    return connection.Answer().value_or("no answer");
+    connection.Send(request);
+    return connection.Answer();
 }
 
-std::optional<unsigned> RunScene(const std::string& scene, void (*during)(DWORD process)) {
+unsigned RunScene(const std::string& scene, void (*during)(DWORD process)) {
     char program[MAX_PATH];
     ::GetModuleFileNameA(nullptr, program, sizeof program);
     std::string line = "\"" + std::string(program) + "\" --scene=" + scene;
@@ -210,18 +168,14 @@ std::optional<unsigned> RunScene(const std::string& scene, void (*during)(DWORD 
     start.cb = sizeof start;
     PROCESS_INFORMATION made{};
     if (!::CreateProcessA(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &made))
-        return std::nullopt;
+        return 1001;
     if (during) during(made.dwProcessId);
-    std::optional<unsigned> result;
+    if (::WaitForSingleObject(made.hProcess, 20000) != WAIT_OBJECT_0) ::TerminateProcess(made.hProcess, 1000);
     DWORD code = 0;
-    if (::WaitForSingleObject(made.hProcess, 20000) == WAIT_OBJECT_0 &&
-        ::GetExitCodeProcess(made.hProcess, &code))
-        result = code;
-    else
-        ::TerminateProcess(made.hProcess, 1);
+    ::GetExitCodeProcess(made.hProcess, &code);
     ::CloseHandle(made.hThread);
     ::CloseHandle(made.hProcess);
-    return result;
+    return code;
 }
 
 }  // namespace rux::test

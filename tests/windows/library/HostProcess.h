@@ -6,9 +6,9 @@
 #include <winsock2.h>
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace rux::test {
 
@@ -26,11 +26,10 @@ class THostThread {
 
     HWND Application() const { return FApplication; }
     void Release() { ::SetEvent(FRelease); }
-    /// Waits for a message box, at most `seconds`; nullptr if there is none.
-    static HWND AwaitBox(unsigned seconds = 10);
+    /// Waits for a message box, at most 10 seconds; nullptr if there is none.
+    static HWND AwaitBox();
 
  private:
-    static LRESULT CALLBACK ApplicationProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void Live(HANDLE ready);
 
     HWND FApplication = nullptr;
@@ -41,8 +40,8 @@ class THostThread {
 /// What the library changes in its process.
 struct TTraces {
     std::uintptr_t WindowProc = 0;
-    /// Hexadecimal, of the code behind the jump in user32!ShowWindow.
-    std::string ShowWindowBytes;
+    /// Of the code behind the jump in user32!ShowWindow.
+    std::vector<unsigned char> ShowWindowBytes;
     friend bool operator==(const TTraces&, const TTraces&) = default;
 };
 TTraces LookAt(const THostThread& host);
@@ -55,29 +54,43 @@ bool AwaitThreads(unsigned most);
 bool AwaitUnloaded();
 /// The lowest port from 4440 on that somebody listens on; 0 if there is none in reach within 10 seconds.
 std::uint16_t FindPort();
-bool Listens(std::uint16_t port);
 
 /// A connection to a port of this machine.
 class TConnection {
  public:
     explicit TConnection(std::uint16_t port);
-    ~TConnection();
+    ~TConnection() { ::closesocket(FSocket); }
     TConnection(const TConnection&) = delete;
     TConnection& operator=(const TConnection&) = delete;
-    void Send(const std::string& text) { ::send(FSocket, text.data(), static_cast<int>(text.size()), 0); }
-    /// "211 False": the status and the body of one answer; nothing when the connection ends before, or the
-    /// time passes.
-    std::optional<std::string> Answer(unsigned seconds = 20);
+    void Send(const std::string& request) { SendBytes("GET /" + request + " HTTP/1.1\r\n\r\n"); }
+    void SendBytes(const std::string& text) {
+        ::send(FSocket, text.data(), static_cast<int>(text.size()), 0);
+    }
+    /// "211 False": the status and the body of one answer; "no answer" when the connection ends before, or
+    /// the time passes.
+    std::string Answer(unsigned seconds = 20);
+    bool IsOpen() const { return FOpen; }
     /// True once the other side has closed it.
-    bool AwaitClosed(unsigned seconds = 10);
+    bool AwaitClosed() {
+        while (Fill(10)) {
+        }
+        return !FOpen;
+    }
 
  private:
-    SOCKET FSocket;
+    bool Fill(unsigned seconds);
+
+    const SOCKET FSocket;
+    bool FOpen;
+    std::string FText;
 };
+inline bool Listens(std::uint16_t port) {
+    return TConnection(port).IsOpen();
+}
 std::string Ask(std::uint16_t port, const std::string& request);
 
 /// Runs this program with `scene` as its only argument. `during` gets the process while it runs. Answers its
-/// exit code, or nothing after 20 seconds, when it is ended.
-std::optional<unsigned> RunScene(const std::string& scene, void (*during)(DWORD process) = nullptr);
+/// exit code; 1000 after 20 seconds, when it is ended.
+unsigned RunScene(const std::string& scene, void (*during)(DWORD process) = nullptr);
 
 }  // namespace rux::test

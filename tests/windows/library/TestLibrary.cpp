@@ -7,24 +7,26 @@ namespace rux::test {
 
 namespace {
 
-constexpr const char* Nothing = "nothing$Find";
+constexpr const char *Nothing = "nothing$Find", *Waits = "?Button%231$Find?WaitForWindow=never";
 
 HMODULE Load() {
     return ::LoadLibraryA(LibraryName);
 }
 
+void Press(const char* button) {
+    const HWND frame = ::FindWindowA("Frame", nullptr);
+    ::PostMessageA(::FindWindowExA(frame, nullptr, "Button", button), BM_CLICK, 0, 0);
+}
+
 /// What the loader is asked to do must be done in this time, whatever is open.
-class TSoon {
- public:
-    ~TSoon() { EXPECT_LT(::GetTickCount() - FStart, 5000u); }
-
- private:
-    const DWORD FStart = ::GetTickCount();
-};
-
 void Free(HMODULE library) {
-    const TSoon soon;
+    const DWORD start = ::GetTickCount();
     EXPECT_TRUE(::FreeLibrary(library));
+    EXPECT_LT(::GetTickCount() - start, 5000u);
+}
+void FreeForGood(HMODULE library) {
+    Free(library);
+    EXPECT_TRUE(AwaitUnloaded());
 }
 
 class TLibrary : public testing::Test {
@@ -55,10 +57,8 @@ TEST_F(TLibrary, LeavesNothingBehind) {
         last = Port;
         const TTraces during = LookAt(Host);
         EXPECT_NE(during.WindowProc, before.WindowProc);
-        EXPECT_EQ(during.ShowWindowBytes.substr(0, 2), "e9");
-        EXPECT_NE(during.ShowWindowBytes.substr(10), "");
-        Free(library);
-        EXPECT_TRUE(AwaitUnloaded());
+        EXPECT_EQ(during.ShowWindowBytes[0], 0xE9);
+        FreeForGood(library);
         EXPECT_FALSE(Listens(Port));
         EXPECT_TRUE(AwaitThreads(most));
         EXPECT_EQ(LookAt(Host), before) << "round " << round;
@@ -78,14 +78,13 @@ TEST_F(TLibrary, FreedBeforeItsThreadsBegin) {
 TEST_F(TLibrary, FreedWithOpenConnections) {
     const HMODULE library = LoadAndServe();
     TConnection idle(Port), half(Port), kept(Port), waiting(Port);
-    half.Send("GET /nothing$Fi");
-    kept.Send("GET /nothing$Find HTTP/1.1\r\n\r\n");
+    half.SendBytes("GET /nothing$Fi");
+    kept.Send(Nothing);
     EXPECT_EQ(kept.Answer(), "211 False");
     // Its call has returned; it waits for a window that never comes.
-    waiting.Send("GET /?Button%231$Find?WaitForWindow=never HTTP/1.1\r\n\r\n");
-    EXPECT_EQ(waiting.Answer(1), std::nullopt);
-    Free(library);
-    EXPECT_TRUE(AwaitUnloaded());
+    waiting.Send(Waits);
+    EXPECT_EQ(waiting.Answer(1), "no answer");
+    FreeForGood(library);
     for (TConnection* connection : {&idle, &half, &kept, &waiting}) EXPECT_TRUE(connection->AwaitClosed());
 }
 
@@ -104,49 +103,42 @@ TEST_F(TLibrary, FreedInAMessageBox) {
 }
 
 TEST_F(TLibrary, LoadedInAMessageBox) {
-    ::PostMessageA(::FindWindowExA(::FindWindowA("Frame", nullptr), nullptr, "Button", "Go"), BM_CLICK, 0, 0);
+    Press("Go");
     ASSERT_NE(THostThread::AwaitBox(), nullptr);
     const HMODULE library = LoadAndServe();
     EXPECT_EQ(Ask(Port, "Box/text$Find"), "211 True");
     EXPECT_EQ(Ask(Port, "Box/?TVirtualButton%231$Click"), "212 ");
-    Free(library);
-    EXPECT_TRUE(AwaitUnloaded());
+    FreeForGood(library);
 }
 
 // Nobody handles what is queued: the user-interface thread is busy with something else for good.
 TEST_F(TLibrary, FreedWhileTheApplicationHangs) {
     const HMODULE library = LoadAndServe();
-    ::PostMessageA(::FindWindowExA(::FindWindowA("Frame", nullptr), nullptr, "Button", "Hang"), BM_CLICK, 0,
-                   0);
+    Press("Hang");
     TConnection waiting(Port);
-    waiting.Send("GET /nothing$Find HTTP/1.1\r\n\r\n");
-    EXPECT_EQ(waiting.Answer(1), std::nullopt);
-    Free(library);
-    EXPECT_TRUE(AwaitUnloaded());
+    waiting.Send(Nothing);
+    EXPECT_EQ(waiting.Answer(1), "no answer");
+    FreeForGood(library);
     EXPECT_TRUE(waiting.AwaitClosed());
     Host.Release();
     // What was queued for the old library means nothing to the next one.
     const HMODULE again = LoadAndServe();
-    Free(again);
-    EXPECT_TRUE(AwaitUnloaded());
+    FreeForGood(again);
 }
 
 TEST_F(TLibrary, ExportsTheServerEntriesAlone) {
     const HMODULE library = LoadAndServe();
-    const auto* base = reinterpret_cast<const unsigned char*>(library);
-    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(
-        base + reinterpret_cast<const IMAGE_DOS_HEADER*>(base)->e_lfanew);
-    const auto* exports = reinterpret_cast<const IMAGE_EXPORT_DIRECTORY*>(
-        base + headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT].VirtualAddress);
-    const auto* names = reinterpret_cast<const DWORD*>(base + exports->AddressOfNames);
-    std::string all;
-    for (DWORD i = 0; i < exports->NumberOfNames; ++i)
-        all += std::string(reinterpret_cast<const char*>(base + names[i])) + " ";
-    EXPECT_EQ(all, "DllCanUnloadNow DllGetClassObject DllRegisterServer DllUnregisterServer ");
-    EXPECT_EQ(exports->NumberOfFunctions, 4u);
-    const auto getClassObject = reinterpret_cast<HRESULT(WINAPI*)(const GUID&, const GUID&, void**)>(
-        reinterpret_cast<void*>(::GetProcAddress(library, "DllGetClassObject")));
-    void* object = &all;
+    const auto address = [&](const char* name) {
+        return reinterpret_cast<void*>(::GetProcAddress(library, name));
+    };
+    for (const char* name :
+         {"DllCanUnloadNow", "DllGetClassObject", "DllRegisterServer", "DllUnregisterServer"})
+        EXPECT_NE(address(name), nullptr) << name;
+    for (WORD ordinal = 1; ordinal < 100; ++ordinal)
+        EXPECT_EQ(address(MAKEINTRESOURCEA(ordinal)) != nullptr, ordinal <= 4) << ordinal;
+    const auto getClassObject =
+        reinterpret_cast<HRESULT(WINAPI*)(const GUID&, const GUID&, void**)>(address("DllGetClassObject"));
+    void* object = &Port;
     EXPECT_EQ(getClassObject(GUID{}, GUID{}, &object), static_cast<HRESULT>(0x80040111));
     EXPECT_EQ(object, nullptr);
     Free(library);
@@ -171,16 +163,10 @@ TEST(LibraryScenes, AHostWithoutTheToolkitEnds) {
     EXPECT_EQ(RunScene("no-toolkit", closeBox), 254u);
 }
 
-TEST(LibraryScenes, ExitWithARequestWaiting) {
+TEST(LibraryScenes, ExitsAndRefusals) {
     EXPECT_EQ(RunScene("exit-with-request"), 7u);
     EXPECT_EQ(RunScene("exit-in-box"), 8u);
-}
-
-TEST(LibraryScenes, AProcessWithoutWindowsRefusesTheLibrary) {
     EXPECT_EQ(RunScene("no-windows"), 9u);
-}
-
-TEST(LibraryScenes, ASharedRunTimeOfTheCompilerDoesNoHarm) {
     EXPECT_EQ(RunScene("shared-run-time"), 10u);
 }
 
@@ -204,11 +190,11 @@ unsigned PlayScene(const std::string& scene) {
     if (scene == "shared-run-time") return ::FreeLibrary(library) && AwaitUnloaded() ? 10 : 4;
     static TConnection waiting(port);
     if (scene == "exit-in-box") {
-        waiting.Send("GET /Go$Click?IgnorePopupWindow HTTP/1.1\r\n\r\n");
+        waiting.Send("Go$Click?IgnorePopupWindow");
         if (!THostThread::AwaitBox()) return 5;
         ::ExitProcess(8);
     }
-    waiting.Send("GET /?Button%231$Find?WaitForWindow=never HTTP/1.1\r\n\r\n");
+    waiting.Send(Waits);
     waiting.Answer(1);
     ::ExitProcess(7);
 }

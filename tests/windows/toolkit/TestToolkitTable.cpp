@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <functional>
 #include <thread>
 #include <tuple>
 
@@ -13,34 +12,34 @@
 #include "platform/win32/Headers.h"
 #include "platform/win32/Win32Thunks.h"
 #include "platform/win32/toolkit/WToolkit.h"
+#include "tests/rtl/TestCodePage.h"
 #include "windows/toolkit/FakeApplication.h"
 
 extern "C" const uint32_t LayoutInC[4];
 
+extern "C" __declspec(dllexport) const RUXTable* RUX_CALL RUXToolkitTable() {
+    return rux::fake::App ? rux::fake::App->Exported : nullptr;
+}
+
 namespace rux {
 namespace {
 
+using namespace fake;
+using test::Raised;
+
 struct TAttached : testing::Test {
-    TFakeApplication& App = NewApplication();
+    TFakeApplication& App = NewApplication(::GetCurrentThreadId());
     TWin32Thunks Thunks;
     WToolkit Kit{Thunks};
+    TApplication& Application = Cast<TApplication>(&Kit.Application());
     TObject* Of(RUXRef ref) { return Kit.ObjectOfProp(ref); }
     template <class T>
     T& As(RUXRef ref) {
         return Cast<T>(Of(ref));
     }
-    TApplication& Application() { return Cast<TApplication>(&Kit.Application()); }
 };
 
-std::string ErrorOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const Exception& error) {
-        return std::string(error.ClassName()) + "|" + error.Message();
-    }
-    return "none";
-}
-const std::string Nil = "EAccessViolation|Access violation at address 00000000. Read of address 00000000";
+const std::string Nil = "EAccessViolation: Access violation at address 00000000. Read of address 00000000";
 
 int DebugTexts = 0;
 LONG CALLBACK CountDebugText(EXCEPTION_POINTERS* raised) {
@@ -55,7 +54,7 @@ TEST(ToolkitTable, IsLaidOutAsInTheOtherLanguage) {
 }
 
 TEST(ToolkitTable, IsRefusedOrTaken) {
-    TFakeApplication& app = NewApplication();
+    TFakeApplication& app = NewApplication(::GetCurrentThreadId());
     const std::tuple<const char*, void (*)(RUXTable&), bool> rows[] = {
         {"as it should be", [](RUXTable&) {}, true},
         {"longer", [](RUXTable& t) { t.Size += 4; }, true},
@@ -96,8 +95,8 @@ TEST_F(TAttached, ClassesAreChainsOfNames) {
         chain += type->Name() + " ";
     }
     EXPECT_EQ(chain, "TCustomEdit TWinControl TControl TComponent TPersistent TObject ");
-    EXPECT_EQ(ErrorOf([&] { As<TCustomForm>(EditRef); }), Nil);
-    EXPECT_EQ(ErrorOf([&] { As<TControl>(MenuRef); }), Nil);
+    EXPECT_EQ(Raised([&] { As<TCustomForm>(EditRef); }), Nil);
+    EXPECT_EQ(Raised([&] { As<TControl>(MenuRef); }), Nil);
 }
 
 TEST_F(TAttached, ReadsValuesPlacesAndOthers) {
@@ -117,12 +116,12 @@ TEST_F(TAttached, ReadsValuesPlacesAndOthers) {
     auto& window = As<TWinControl>(FormRef);
     EXPECT_TRUE(form.MDIChildCount() == 0 && window.ControlCount() == 5);
     EXPECT_EQ(window.Controls(1), Of(CheckRef));
-    EXPECT_EQ(ErrorOf([&] { window.Controls(5); }), "EListError|List index out of bounds (5)");
+    EXPECT_EQ(Raised([&] { window.Controls(5); }), "EListError: List index out of bounds (5)");
     EXPECT_EQ(Kit.CustomForms(0), Of(FormRef));
-    EXPECT_EQ(Kit.ActiveForm(), Application().MainForm());
+    EXPECT_EQ(Kit.ActiveForm(), Application.MainForm());
     EXPECT_EQ(As<TDateTimePicker>(DateRef).Date(), 39512);
     EXPECT_TRUE(As<TRadioButton>(RadioRef).Checked());
-    EXPECT_EQ(ErrorOf([&] { As<TControl>(ButtonRef).Visible(); }), Nil);  // nothing of the kind
+    EXPECT_EQ(Raised([&] { As<TControl>(ButtonRef).Visible(); }), Nil);  // nothing of the kind
 }
 
 TEST_F(TAttached, SetsAndInvokes) {
@@ -137,7 +136,7 @@ TEST_F(TAttached, SetsAndInvokes) {
     As<TWinControl>(EditRef).SetFocus();
     As<TWinControl>(FormRef).BringToFront();
     As<TCustomForm>(FormRef).UpdateActions();
-    Application().ProcessMessages();
+    Application.ProcessMessages();
     EXPECT_EQ(App.Log, (std::vector<std::string>{"80:1", "80:2", "48:3", "32:4", "32:5", "0:6"}));
 }
 
@@ -169,12 +168,12 @@ TEST_F(TAttached, TheDeadHaveNoOperations) {
         if (after == 2) App.Objects[ButtonRef] = {fcEdit, button.Life};
         TObject* now = Of(ButtonRef);
         EXPECT_TRUE(now != old && (now == nullptr) == (after == 0)) << after;
-        EXPECT_EQ(ErrorOf([&] { Cast<TControl>(old); }), Nil) << after;
+        EXPECT_EQ(Raised([&] { Cast<TControl>(old); }), Nil) << after;
         EXPECT_FALSE(old->GetProp(FindName("Kind1"), value)) << after;
     }
     auto& edit = As<TControl>(EditRef);
     App.Objects.erase(EditRef);
-    EXPECT_EQ(ErrorOf([&] { edit.Text(); }), Nil);
+    EXPECT_EQ(Raised([&] { edit.Text(); }), Nil);
     EXPECT_TRUE(!Of(0) && !Of(0xDEAD));
 }
 
@@ -215,20 +214,20 @@ TEST_F(TAttached, ErrorsOfTheApplicationComeAsTheirOwn) {
     App.Fails = true;
     const auto failing = [&](const char* name, const char* message) {
         App.Failure = {name, message};
-        return ErrorOf([&] { As<TControl>(ButtonRef).Click(); });
+        return Raised([&] { As<TControl>(ButtonRef).Click(); });
     };
-    EXPECT_EQ(failing("EInvalidOperation", "Cannot focus"), "EInvalidOperation|Cannot focus");
-    EXPECT_EQ(failing("EMyOwn", ""), "EMyOwn|");
-    EXPECT_EQ(failing("", ""), "Exception|The toolkit failed without an error");
+    EXPECT_EQ(failing("EInvalidOperation", "Cannot focus"), "EInvalidOperation: Cannot focus");
+    EXPECT_EQ(failing("EMyOwn", ""), "EMyOwn: ");
+    EXPECT_EQ(failing("", ""), "Exception: The toolkit failed without an error");
     App.Failure = {"EABORT", "quiet"};
-    EXPECT_THROW(Application().ProcessMessages(), EAbort);
+    EXPECT_THROW(Application.ProcessMessages(), EAbort);
 }
 
 TEST_F(TAttached, TheApplicationAnswersAnyThreadAndReportsErrors) {
     App.State.Terminated = 1;
     std::thread([&] {
-        EXPECT_TRUE(Application().Terminated());
-        EXPECT_EQ(Application().Handle(), HWnd{0x1234});
+        EXPECT_TRUE(Application.Terminated());
+        EXPECT_EQ(Application.Handle(), HWnd{0x1234});
         Thunks.Report(EOSError("unheard"));  // no box of the application on another thread
     }).join();
     EXPECT_EQ(Kit.MainThreadId(), ::GetCurrentThreadId());

@@ -17,24 +17,6 @@ namespace {
 /// Used by the thread that runs commands.
 std::optional<int> EndCode;
 
-std::string Hex(const void* bytes, std::size_t count) {
-    std::string text;
-    for (std::size_t i = 0; i < count; ++i) {
-        char piece[4];
-        wsprintfA(piece, "%02x ", static_cast<const unsigned char*>(bytes)[i]);
-        text += piece;
-    }
-    return text;
-}
-
-/// Behind the jump that stands at the export, if there is one: where the function itself begins.
-const unsigned char* BodyOfShowWindow() {
-    const auto* code = reinterpret_cast<const unsigned char*>(
-        reinterpret_cast<std::uintptr_t>(GetProcAddress(GetModuleHandleA("user32.dll"), "ShowWindow")));
-    if (code[0] != 0xFF || code[1] != 0x25) return code;
-    return **reinterpret_cast<const unsigned char* const* const*>(code + 2);
-}
-
 std::string SizeOf(const std::string& title) {
     RECT place;
     const HWND dialog = FindDialog(title);
@@ -47,16 +29,7 @@ std::string Close(const std::string& title) {
     return dialog && PostMessageA(dialog, WM_CLOSE, 0, 0) ? "posted" : "none";
 }
 
-std::string Load(const std::string& name) {
-    return LoadLibraryA(name.c_str()) ? "loaded" : "failed " + std::to_string(GetLastError());
-}
-
-std::string Free(const std::string& name) {
-    const HMODULE module = GetModuleHandleA(name.c_str());
-    return module && FreeLibrary(module) ? "freed" : "failed " + std::to_string(GetLastError());
-}
-
-/// The same on the user-interface thread.
+/// On the user-interface thread.
 std::string There(const std::function<std::string()>& code) {
     std::string answer = "done";
     RunOnUserInterface([&] { answer = code(); });
@@ -93,17 +66,6 @@ std::string RunCommand(HWND application, std::string line) {
         {"notes", [](auto) { return TakeNotes(); }},
         {"title",
          [=](auto text) { return SetWindowTextA(application, Ansi(text).c_str()) ? "done" : "failed"; }},
-        {"load", &Load},
-        {"free", &Free},
-        {"load-there", [](auto name) { return There([&] { return Load(name); }); }},
-        {"free-there", [](auto name) { return There([&] { return Free(name); }); }},
-        {"loaded", [](auto name) { return GetModuleHandleA(name.c_str()) ? "yes" : "no"; }},
-        {"procedure",
-         [=](auto) {
-             const LONG procedure = GetWindowLongA(application, GWL_WNDPROC);
-             return Hex(&procedure, sizeof procedure);
-         }},
-        {"showwindow", [](auto) { return Hex(BodyOfShowWindow(), 16); }},
         {"codepage", [](auto) { return std::to_string(GetACP()); }},
         // Once the line is closed: the answer is to arrive.
         {"end",

@@ -295,4 +295,29 @@ TEST_P(WindowContract, TextsAndMarks) {
     EXPECT_EQ(Windows.GetPropA(other, atom) + Windows.GetPropA(window, 0) + Windows.GetPropA(0, atom), 0u);
 }
 
+TEST_P(WindowContract, KeysGoToWhoeverHasTheFocus) {
+    const HWnd window = Make({"Plain", ""}), child = Make({"Plain", "", Child, window});
+    Stage->Show(window, SW_SHOWNORMAL);
+    Windows.SetActiveWindow(window);
+    ASSERT_TRUE(Windows.SetFocus(child));
+    std::string notes;
+    const TWndProc before = Windows.GetWindowProc(child);
+    const TWndProc instance = Windows.MakeObjectInstance([&](HWnd at, unsigned n, WParam w, LParam l) {
+        if (n == WM_KEYDOWN || n == WM_KEYUP) notes += std::to_string(n) + ":" + std::to_string(w) + " ";
+        return Windows.CallWindowProcA(before, at, n, w, l);
+    });
+    Windows.SetWindowProc(child, instance);
+    for (const std::uint8_t key : {VK_F2, VK_DOWN})
+        for (const std::uint32_t flags : {0u, 2u}) Windows.keybd_event(key, 0, flags, 0);
+    const std::string expected = "256:113 257:113 256:40 257:40 ";
+    // Real keys take their way through the system.
+    for (int i = 0; i < 500 && notes.size() < expected.size(); ++i) {
+        Stage->Pump();
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    EXPECT_EQ(notes, expected);
+    Windows.SetWindowProc(child, before);
+    Windows.FreeObjectInstance(instance);
+}
+
 }  // namespace rux::test

@@ -14,7 +14,9 @@ namespace rux {
 /// Ends the host, with a message box, when it is no application that the engine can live in.
 void CheckHost(TPlatform& platform);
 
-/// One at a time in a process. All calls on the user-interface thread.
+/// One at a time in a process. Made, started, stopped and freed on the user-interface thread, or on whatever
+/// thread loads and unloads a library that holds it; never stopped while the user-interface thread runs a
+/// handler of the engine's.
 class TRUXApplication {
  public:
     /// Fills the class lists; nothing runs yet.

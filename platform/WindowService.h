@@ -43,7 +43,8 @@ class TWindowService {
     virtual unsigned RegisterWindowMessageA(const std::string& name) = 0;
 
     /// Turns a function into a window procedure that can be set into a window. No exception leaves it: what
-    /// `procedure` raises goes to the application's own report, and the message answers 0.
+    /// `procedure` raises goes to the application's own report, and the message answers 0. 0 when there is no
+    /// room.
     virtual TWndProc MakeObjectInstance(TWindowProcedure procedure) = 0;
     virtual void FreeObjectInstance(TWndProc instance) = 0;
     virtual TWndProc GetWindowProc(HWnd window) = 0;

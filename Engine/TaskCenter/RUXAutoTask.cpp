@@ -37,6 +37,11 @@ TRUXTaskCenter::TRUXTaskCenter() : FMail(static_cast<WParam>(Platform().Clock.Ti
     };
     FInstance = instance(&TRUXTaskCenter::WindowProc);
     FHandler = instance(&TRUXTaskCenter::TaskCenterWndProc);
+    if (FInstance == 0 || FHandler == 0) {
+        windows.FreeObjectInstance(FInstance);
+        windows.FreeObjectInstance(FHandler);
+        throw EOSError("A call to an OS function failed");
+    }
     // Noted first: where the library is loaded by another thread, the next message may come at once.
     FPreviousProc = windows.GetWindowProc(FWindow);
     windows.SetWindowProc(FWindow, FInstance);

@@ -97,7 +97,7 @@ TWndProc TWin32Windows::GetWindowProc(HWnd window) {
 
 TWndProc TWin32Windows::SetWindowProc(HWnd window, TWndProc procedure) {
     const TWndProc previous = GetWindowProc(window);
-    if (previous == 0) return 0;
+    if (previous == 0 || procedure == 0) return 0;
     // Before the first message can come.
     FThunks.SetPrevious(procedure, previous);
     // A window keeps its kind: one of wide texts would otherwise see its own messages in the code page.

@@ -114,11 +114,18 @@ bool AwaitUnloaded() {
     return Await([] { return ::GetModuleHandleA(LibraryName) == nullptr; });
 }
 
+/// Wine's server may keep the listening socket of a process that has ended: what listens there never answers.
+bool Serves(std::uint16_t port) {
+    TConnection connection(port);
+    connection.Send("GetExePath");
+    return connection.Answer(1) != "no answer";
+}
+
 std::uint16_t FindPort() {
     std::uint16_t found = 0;
     Await([&] {
         for (std::uint16_t port = 4440; port < 4640 && found == 0; ++port)
-            if (Listens(port)) found = port;
+            if (Listens(port) && Serves(port)) found = port;
         return found != 0;
     });
     return found;

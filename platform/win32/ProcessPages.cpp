@@ -1,5 +1,6 @@
 #include "platform/win32/ProcessPages.h"
 
+#include <cstring>
 #include <mutex>
 #include <utility>
 
@@ -33,6 +34,12 @@ std::uint32_t TakeProcessMemory(std::size_t size) {
     }
     block.Left -= size;
     return std::exchange(block.Next, block.Next + static_cast<std::uint32_t>(size));
+}
+
+void WriteProcessCode(std::uint32_t address, std::string_view code) {
+    void* place = reinterpret_cast<void*>(static_cast<std::uintptr_t>(address));
+    std::memcpy(place, code.data(), code.size());
+    ::FlushInstructionCache(::GetCurrentProcess(), place, code.size());
 }
 
 }  // namespace rux

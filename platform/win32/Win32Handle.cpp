@@ -8,4 +8,15 @@ void TWin32Handle::Close() {
     if (FHandle) ::CloseHandle(Detach());
 }
 
+TWaitResult TWin32Handle::WaitFor(std::uint32_t milliseconds) const {
+    switch (::WaitForSingleObject(FHandle, milliseconds)) {
+        case WAIT_OBJECT_0:
+            return TWaitResult::Signalled;
+        case WAIT_TIMEOUT:
+            return TWaitResult::TimedOut;
+        default:
+            return TWaitResult::Failed;
+    }
+}
+
 }  // namespace rux

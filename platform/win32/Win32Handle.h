@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "platform/KernelService.h"
+
 namespace rux {
 
 class TWin32Handle {
@@ -22,6 +24,8 @@ class TWin32Handle {
     explicit operator bool() const { return FHandle != nullptr; }
     void* Detach() { return std::exchange(FHandle, nullptr); }
     void Close();
+    /// Until the object behind it is signalled, at most for that many milliseconds.
+    TWaitResult WaitFor(std::uint32_t milliseconds) const;
 
  private:
     static bool IsNone(void* handle) { return reinterpret_cast<std::intptr_t>(handle) == -1; }

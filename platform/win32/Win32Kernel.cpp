@@ -16,16 +16,7 @@ class TWin32Event final : public TEvent {
     explicit TWin32Event(TWin32Handle event) : FEvent(std::move(event)) {}
     /// Touches nothing of the object once the event is set.
     void SetEvent() override { ::SetEvent(FEvent.Get()); }
-    TWaitResult WaitFor(std::uint32_t milliseconds) override {
-        switch (::WaitForSingleObject(FEvent.Get(), milliseconds)) {
-            case WAIT_OBJECT_0:
-                return TWaitResult::Signalled;
-            case WAIT_TIMEOUT:
-                return TWaitResult::TimedOut;
-            default:
-                return TWaitResult::Failed;
-        }
-    }
+    TWaitResult WaitFor(std::uint32_t milliseconds) override { return FEvent.WaitFor(milliseconds); }
 
  private:
     const TWin32Handle FEvent;

@@ -8,6 +8,7 @@
 #include "platform/win32/Headers.h"
 #include "platform/win32/MachineCode.h"
 #include "platform/win32/ProcessPages.h"
+#include "platform/win32/Win32Handle.h"
 #include "rtl/Exceptions.h"
 
 namespace rux {
@@ -16,30 +17,14 @@ namespace {
 
 enum TThreadState : LONG { IsNew, HasEntered, IsKeptOut };
 
-class THandleOwner {
- public:
-    explicit THandleOwner(HANDLE handle) : FHandle(handle) {}
-    THandleOwner(const THandleOwner&) = delete;
-    THandleOwner& operator=(const THandleOwner&) = delete;
-    ~THandleOwner() { ::CloseHandle(FHandle); }
-    HANDLE Get() const { return FHandle; }
-
- private:
-    const HANDLE FHandle;
-};
-
 /// Set once the thread has left the library's code for good.
-using TLeftEvent = std::shared_ptr<const THandleOwner>;
+using TLeftEvent = std::shared_ptr<const TWin32Handle>;
 
 class THandle final : public TThreadHandle {
  public:
     explicit THandle(TLeftEvent left) : FLeft(std::move(left)) {}
-    bool Ended() const override { return ::WaitForSingleObject(FLeft->Get(), 0) == WAIT_OBJECT_0; }
-    TWaitResult WaitFor(std::uint32_t milliseconds) override {
-        const DWORD result = ::WaitForSingleObject(FLeft->Get(), milliseconds);
-        if (result == WAIT_OBJECT_0) return TWaitResult::Signalled;
-        return result == WAIT_TIMEOUT ? TWaitResult::TimedOut : TWaitResult::Failed;
-    }
+    bool Ended() const override { return FLeft->WaitFor(0) == TWaitResult::Signalled; }
+    TWaitResult WaitFor(std::uint32_t milliseconds) override { return FLeft->WaitFor(milliseconds); }
 
  private:
     const TLeftEvent FLeft;
@@ -54,8 +39,20 @@ struct TStart {
     void* Body;           // 12: a TBody, until the thread has run it or was kept out
 };
 
+struct TStartDeleter {
+    void operator()(TStart* start) const { ::HeapFree(::GetProcessHeap(), 0, start); }
+};
+
 [[noreturn]] void RaiseNoThread() {
     throw EOSError("A call to an OS function failed");
+}
+
+TWin32Handle CopyOf(const TWin32Handle& handle) {
+    HANDLE copy = nullptr;
+    const HANDLE process = ::GetCurrentProcess();
+    if (!::DuplicateHandle(process, handle.Get(), process, &copy, 0, FALSE, DUPLICATE_SAME_ACCESS))
+        RaiseNoThread();
+    return TWin32Handle(copy);
 }
 
 }  // namespace
@@ -108,9 +105,7 @@ std::uint32_t TWin32Threads::TState::MakeEntry() {
     code.Land(inUse);
     code.Bytes({0x31, 0xC0, 0x5B, 0xC2, 4, 0});  // xor eax, eax; pop ebx; ret 4
     Assert(code.Code().size() <= room);
-    void* place = reinterpret_cast<void*>(static_cast<std::uintptr_t>(address));
-    std::memcpy(place, code.Code().data(), code.Code().size());
-    ::FlushInstructionCache(::GetCurrentProcess(), place, room);
+    WriteProcessCode(address, code.Code());
     return address;
 }
 
@@ -133,12 +128,12 @@ void __stdcall TWin32Threads::TState::RunBody(TStart* start) noexcept {
 }
 
 void TWin32Threads::TState::Drop(TStart* start) {
-    if (::InterlockedDecrement(&start->Users) == 0) ::HeapFree(::GetProcessHeap(), 0, start);
+    if (::InterlockedDecrement(&start->Users) == 0) TStartDeleter()(start);
 }
 
 void TWin32Threads::TState::Reap() {
     std::erase_if(Leaving, [](const TThread& thread) {
-        if (::WaitForSingleObject(thread.Left->Get(), 0) != WAIT_OBJECT_0) return false;
+        if (thread.Left->WaitFor(0) != TWaitResult::Signalled) return false;
         Drop(thread.Start);
         return true;
     });
@@ -146,7 +141,7 @@ void TWin32Threads::TState::Reap() {
 
 // ------------------------------------------------------------------------------------------ the class
 
-TWin32Threads::TWin32Threads() : FState(std::make_shared<TState>()) {}
+TWin32Threads::TWin32Threads() : FState(std::make_unique<TState>()) {}
 
 TWin32Threads::~TWin32Threads() {
     WaitForAll();
@@ -159,32 +154,26 @@ std::unique_ptr<TThreadHandle> TWin32Threads::Start(std::function<void()> code) 
     if (state.Entry == 0) state.Entry = state.MakeEntry();
     if (state.Entry == 0) RaiseNoThread();
 
-    const HANDLE event = ::CreateEventA(nullptr, TRUE, FALSE, nullptr);
-    if (!event) RaiseNoThread();
-    const TLeftEvent left = std::make_shared<const THandleOwner>(event);
-    HANDLE threadsOwn = nullptr;
-    if (!::DuplicateHandle(::GetCurrentProcess(), event, ::GetCurrentProcess(), &threadsOwn, 0, FALSE,
-                           DUPLICATE_SAME_ACCESS))
-        RaiseNoThread();
-    auto* start = static_cast<TStart*>(::HeapAlloc(::GetProcessHeap(), 0, sizeof(TStart)));
-    if (!start) {
-        ::CloseHandle(threadsOwn);
-        RaiseNoThread();
-    }
-    auto body = std::make_unique<TState::TBody>(TState::TBody{std::move(code), &state, start});
-    *start = {IsNew, 2, threadsOwn, body.get()};
-    state.Running.push_back({start, left});
-    const HANDLE thread = ::CreateThread(
-        nullptr, 0, reinterpret_cast<LPTHREAD_START_ROUTINE>(static_cast<std::uintptr_t>(state.Entry)), start,
-        0, nullptr);
+    const auto left = std::make_shared<const TWin32Handle>(::CreateEventA(nullptr, TRUE, FALSE, nullptr));
+    if (!*left) RaiseNoThread();
+    TWin32Handle threadsOwn = CopyOf(*left);
+    std::unique_ptr<TStart, TStartDeleter> start(
+        static_cast<TStart*>(::HeapAlloc(::GetProcessHeap(), 0, sizeof(TStart))));
+    if (!start) RaiseNoThread();
+    auto body = std::make_unique<TState::TBody>(TState::TBody{std::move(code), &state, start.get()});
+    *start = {IsNew, 2, threadsOwn.Get(), body.get()};
+    state.Running.push_back({start.get(), left});
+    const TWin32Handle thread(::CreateThread(
+        nullptr, 0, reinterpret_cast<LPTHREAD_START_ROUTINE>(static_cast<std::uintptr_t>(state.Entry)),
+        start.get(), 0, nullptr));
     if (!thread) {
         state.Running.pop_back();
-        ::CloseHandle(threadsOwn);
-        ::HeapFree(::GetProcessHeap(), 0, start);
         RaiseNoThread();
     }
+    // From here on they are the thread's.
+    static_cast<void>(threadsOwn.Detach());
     static_cast<void>(body.release());
-    ::CloseHandle(thread);
+    static_cast<void>(start.release());
     return std::make_unique<THandle>(left);
 }
 
@@ -210,7 +199,7 @@ void TWin32Threads::WaitForAll() {
         threads = FState->Running;
         threads.insert(threads.end(), FState->Leaving.begin(), FState->Leaving.end());
     }
-    for (const TState::TThread& thread : threads) ::WaitForSingleObject(thread.Left->Get(), INFINITE);
+    for (const TState::TThread& thread : threads) thread.Left->WaitFor(WaitForever);
     const std::lock_guard lock(FState->Lock);
     FState->Reap();
 }

@@ -33,7 +33,7 @@ class TWin32Threads {
 
  private:
     struct TState;
-    std::shared_ptr<TState> FState;
+    std::unique_ptr<TState> FState;
 };
 
 }  // namespace rux

@@ -201,9 +201,7 @@ std::uintptr_t TWin32Thunks::TState::Make(TSlot made) {
     code.Bytes({0x31, 0xC0, 0xC2, stackBytes, 0});  // xor eax, eax; ret n
     Assert(code.Code().size() <= CodeRoom);
 
-    std::memcpy(reinterpret_cast<void*>(static_cast<std::uintptr_t>(function)), code.Code().data(),
-                code.Code().size());
-    ::FlushInstructionCache(::GetCurrentProcess(), reinterpret_cast<void*>(function), CodeRoom);
+    WriteProcessCode(function, code.Code());
     ByFunction.emplace(function, &slot);
     return function;
 }

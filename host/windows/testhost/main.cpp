@@ -1,7 +1,7 @@
 // testhost: an application for the agent to live in. It is one as far as the agent looks: a module of the
 // toolkit's name is loaded, and there is the hidden window that the toolkit makes for the application.
 //
-//   testhost [--control PORT] [--title TEXT] [--no-standin] [COMMAND ...]
+//   testhost [--control PORT] [--title TEXT] [COMMAND ...]
 //
 // Commands (see Commands.cpp) run at the start, one for each argument; later they come over the control line.
 #include <windows.h>
@@ -26,7 +26,6 @@ constexpr int NoControl = 121;
 struct TOptions {
     std::uint16_t Control = 0;
     std::string Title = "App";
-    bool StandIn = true;
     std::vector<std::string> Commands;
 };
 
@@ -34,9 +33,7 @@ TOptions ReadOptions(int argc, char** argv) {
     TOptions options;
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i], value = i + 1 < argc ? argv[i + 1] : "";
-        if (arg == "--no-standin") {
-            options.StandIn = false;
-        } else if (arg == "--control") {
+        if (arg == "--control") {
             options.Control = static_cast<std::uint16_t>(std::atoi(value.c_str()));
             ++i;
         } else if (arg == "--title") {
@@ -81,7 +78,7 @@ void Control(HWND application, const TOptions& options) noexcept {
 }
 
 int Run(const TOptions& options) {
-    if (options.StandIn && !LoadLibraryA("vcl100.bpl")) return NoStandIn;
+    if (!LoadLibraryA("vcl100.bpl")) return NoStandIn;
     BeginUserInterface();
     const HWND application = MakeApplicationWindow(options.Title);
     std::thread(&Control, application, options).detach();

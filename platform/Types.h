@@ -76,6 +76,11 @@ enum TVirtualKey : unsigned {
     VK_MENU = 18,
     VK_ESCAPE = 27,
     VK_SPACE = 32,
+    VK_END = 35,
+    VK_HOME = 36,
+    VK_LEFT = 37,
+    VK_UP = 38,
+    VK_RIGHT = 39,
     VK_DOWN = 40,
     VK_F2 = 113,
 };
@@ -130,6 +135,10 @@ struct TTVItem {
 
 inline constexpr WParam MK_LBUTTON = 1;
 inline constexpr unsigned BN_CLICKED = 0;
+/// Notifications of list boxes and combo boxes.
+inline constexpr unsigned LBN_SELCHANGE = 1, LBN_DBLCLK = 2;
+inline constexpr unsigned CBN_SELCHANGE = 1, CBN_DBLCLK = 2, CBN_EDITCHANGE = 5, CBN_DROPDOWN = 7,
+                          CBN_CLOSEUP = 8, CBN_SELENDOK = 9;
 inline constexpr int GWL_WNDPROC = -4;
 inline constexpr int GWL_STYLE = -16;
 inline constexpr int GWL_EXSTYLE = -20;

@@ -11,9 +11,10 @@ class THeadlessPlatform {
  public:
     THeadlessPlatform(TKernelService& kernel, TClockService& clock, TSocketService& sockets,
                       TFileService& files)
-        : FDesktop(kernel, clock, FCode), FToolkit(FDesktop, clock), FPlatform{FDesktop, kernel,  FCode,
-                                                                               clock,    sockets, files,
-                                                                               FToolkit} {}
+        : FDesktop(kernel, clock, FCode), FToolkit(FDesktop, clock, files), FPlatform{FDesktop, kernel,
+                                                                                      FCode,    clock,
+                                                                                      sockets,  files,
+                                                                                      FToolkit} {}
 
     HCodeSpace& CodeSpace() { return FCode; }
     HDesktop& Desktop() { return FDesktop; }

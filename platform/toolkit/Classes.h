@@ -25,12 +25,40 @@ enum class TFacetId : std::uint8_t {
     RadioButton,
     DateTimePicker,
     BaseVirtualControl,
+    MenuItem,
+    PopupMenu,
+    CustomListBox,
+    CheckListBox,
+    CustomCombo,
+    ShellComboBox,
+    CustomTreeView,
+    TreeNode,
+    RichTreeView,
+    RichTreeNode,
+    CustomListView,
+    ListItem,
+    ShellListView,
+    CustomTabControl,
+    PageControl,
+    TabSheet,
+    FlatPageControl,
+    FlatTabSheet,
+    TBXPageControl,
+    TabSet,
+    TBXImageTabSet,
+    StatusBar,
+    TBXStatusBar,
     Count,
 };
 inline constexpr std::size_t FacetCount = static_cast<std::size_t>(TFacetId::Count);
 inline constexpr std::string_view FacetNames[FacetCount] = {
-    "TApplication", "TComponent",      "TControl",     "TWinControl",     "TCustomForm",
-    "TCustomEdit",  "TCustomCheckBox", "TRadioButton", "TDateTimePicker", "TBaseVirtualControl",
+    "TApplication",    "TComponent",       "TControl",       "TWinControl",       "TCustomForm",
+    "TCustomEdit",     "TCustomCheckBox",  "TRadioButton",   "TDateTimePicker",   "TBaseVirtualControl",
+    "TMenuItem",       "TPopupMenu",       "TCustomListBox", "TCheckListBox",     "TCustomCombo",
+    "TShellComboBox",  "TCustomTreeView",  "TTreeNode",      "TRichTreeView",     "TRichTreeNode",
+    "TCustomListView", "TListItem",        "TShellListView", "TCustomTabControl", "TPageControl",
+    "TTabSheet",       "TFlatPageControl", "TFlatTabSheet",  "TTBXPageControl",   "TTabSet",
+    "TTBXImageTabSet", "TStatusBar",       "TTBXStatusBar",
 };
 
 /// A class of the live application: a name over a parent. The C++ type behind it is never asked.
@@ -123,6 +151,19 @@ T& Cast(TObject* object) {
     if (!facet) RaiseNilAccess();
     return *static_cast<T*>(facet);
 }
+
+/// The lines of a control, as long as the control lives. Indexes outside raise EStringListError "List index
+/// out of bounds (<index>)".
+class TStrings {
+ public:
+    virtual int Count() = 0;
+    virtual std::string Get(int index) = 0;
+    /// The first line that equals the text by the locale's rules, case aside; -1 for none.
+    virtual int IndexOf(const std::string& text) = 0;
+
+ protected:
+    ~TStrings() = default;
+};
 
 /// A component: an object with a name that a form file gives it.
 class TComponent {

@@ -29,6 +29,11 @@ class TControl {
     /// Calls the handler in the OnClick field with the control as sender. Without one this is a call through
     /// a nil pointer: EAccessViolation.
     virtual void CallOnClick() = 0;
+    /// Call the handler in that field with the control as sender, if there is one.
+    virtual void FireOnClick() = 0;
+    virtual void FireOnDblClick() = 0;
+    /// Hands a message to the control itself, past its window and the queue.
+    virtual LResult Perform(unsigned message, WParam wParam, LParam lParam) = 0;
 
  protected:
     ~TControl() = default;

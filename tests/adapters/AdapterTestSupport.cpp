@@ -1,5 +1,7 @@
 #include "AdapterTestSupport.h"
 
+#include <span>
+
 #include "Engine/Request/RUXConversion.h"
 #include "Engine/Request/RUXInvoker.h"
 #include "platform/headless/forms/FormParser.h"
@@ -65,7 +67,7 @@ std::string Joined(const std::vector<std::string>& parts) {
 
 TWatchedKernel::TWatchedKernel(TWaitClock& clock) : TPosixKernel(clock, {.ThreadStackSize = 1 << 20}) {}
 
-TAdapterTest::TAdapterTest() {
+TAdapterTest::TAdapterTest(std::initializer_list<std::string_view> forms) {
     [[maybe_unused]] static const bool once = (SetAnsiCodePage(LoadCodePage(936)), true);
     RegisterTestAdapters(*Engine.Registry);
     HToolkit& kit = Desktop.Toolkit();
@@ -79,7 +81,9 @@ TAdapterTest::TAdapterTest() {
         if (!kit.App().MainFormObject()) kit.App().SetMainForm(dynamic_cast<HCustomForm*>(&root));
     });
     std::vector<TFormFile> files;
-    for (const std::string_view text : FormTexts) files.push_back(ParseFormFile("test.dfm", text));
+    const std::span<const std::string_view> usual(FormTexts), given(forms);
+    for (const std::string_view text : given.empty() ? usual : given)
+        files.push_back(ParseFormFile("test.dfm", Utf8ToAnsi(text)));
     ShowLoadedForms(loader.Load(files));
     const auto note = [this](const std::string& line) { FLines.push_back(line); };
     Kernel.OnSleep = [note](std::uint32_t time) { note("sleep " + std::to_string(time)); };

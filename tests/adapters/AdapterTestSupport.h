@@ -31,7 +31,9 @@ class TWatchedKernel final : public TPosixKernel {
 
 class TAdapterTest : public testing::Test {
  protected:
-    TAdapterTest();
+    /// Loads these forms, one of them named F, else those that the general rows are about. In a form file X
+    /// is a method without code, and Die ends its sender.
+    explicit TAdapterTest(std::initializer_list<std::string_view> forms = {});
     ~TAdapterTest() override;
 
     /// A form by its name, or a component of form F by its own; nil if there is none.

@@ -8,7 +8,7 @@ namespace rux {
 namespace {
 
 void RegisterStrings(HClasses& classes) {
-    classes.Add("TStrings", "TPersistent", HMake<HStrings>, {HReadOnly<&HStrings::CountValue>("Count")});
+    classes.Add("TStrings", "TPersistent", HMake<HStrings>, {HReadOnly<&HStrings::Count>("Count")});
     AddChildren(classes, "TStrings",
                 {"TStringList", "TListBoxStrings", "TCustomComboBoxStrings", "TTabStrings", "TPageAccess"});
     classes.Add("TComboBoxStrings", "TCustomComboBoxStrings");

@@ -22,6 +22,10 @@ void RegisterActionUnits(HClasses& classes);
 void RegisterActionBarUnits(HClasses& classes);
 void RegisterComCtrlsUnit(HClasses& classes);
 void RegisterViewClasses(HClasses& classes);
+void RegisterTreeClasses(HClasses& classes);
+void RegisterListViewClasses(HClasses& classes);
+void RegisterShellUnit(HClasses& classes);
+void RegisterExtraClasses(HClasses& classes);
 void RegisterToolBarClasses(HClasses& classes);
 void RegisterDialogUnits(HClasses& classes);
 void RegisterGridUnits(HClasses& classes);
@@ -134,6 +138,8 @@ HRows UnknownControlRows(bool windowed, const std::function<bool(TName)>& stored
 HRows EditRows();
 HRows FullEditRows();
 HRows GroupBoxRows();
+/// Trees and list views.
+HRows ViewRows();
 HRows PanelRows();
 /// Columns and rows of grids.
 HRows GridRows();

@@ -248,4 +248,15 @@ HRows UnknownControlRows(bool windowed, const std::function<bool(TName)>& stored
     return Join({rows, Shown(), windowed ? Tabbed() : HRows{}});
 }
 
+HRows ViewRows() {
+    return Join({Framed(),
+                 Aligned(),
+                 Bevelled(),
+                 Objects({"StateImages"}),
+                 Bools({"HotTrack", "MultiSelect", "ReadOnly", "RowSelect"}),
+                 Bools({"HideSelection"}, true),
+                 Ints({"BorderWidth"}),
+                 {KeptEnum("SortType", "TSortType")}});
+}
+
 }  // namespace rux

@@ -16,10 +16,14 @@ void RegisterToolkitClasses(HClasses& classes) {
     RegisterActionUnits(classes);
     RegisterActionBarUnits(classes);
     RegisterComCtrlsUnit(classes);
+    RegisterTreeClasses(classes);
+    RegisterListViewClasses(classes);
     RegisterViewClasses(classes);
+    RegisterShellUnit(classes);
     RegisterToolBarClasses(classes);
     RegisterDialogUnits(classes);
     RegisterPageUnits(classes);
+    RegisterExtraClasses(classes);
     RegisterGridUnits(classes);
     RegisterDataUnits(classes);
     RegisterDataControlUnits(classes);

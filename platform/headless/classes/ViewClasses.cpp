@@ -1,4 +1,4 @@
-// Trees, list views, headers, rich edits, combo boxes with pictures.
+// Headers, rich edits, combo boxes with pictures.
 #include "platform/headless/classes/HClassTables.h"
 #include "platform/headless/toolkit/HEdits.h"
 #include "platform/headless/toolkit/HLists.h"
@@ -11,62 +11,6 @@ class HCustomRichEdit : public HCustomMemo {
  public:
     HCustomRichEdit(HToolkit& kit, const HClassDef& def) : HCustomMemo(kit, def, "TRichEditStrings") {}
 };
-
-/// A view with a border that the keyboard reaches.
-class HView : public HBorderedControl {
- public:
-    HView(HToolkit& kit, const HClassDef& def) : HBorderedControl(kit, def) { FTabStop = true; }
-};
-
-HRows ViewRows() {
-    return Join({Framed(),
-                 Aligned(),
-                 Bevelled(),
-                 Objects({"StateImages"}),
-                 Bools({"HotTrack", "MultiSelect", "ReadOnly", "RowSelect"}),
-                 Bools({"HideSelection"}, true),
-                 Ints({"BorderWidth"}),
-                 {KeptEnum("SortType", "TSortType")}});
-}
-
-void RegisterTree(HClasses& classes) {
-    // The nodes of a form file are kept as the bytes they are.
-    classes.Add("TTreeNodes", "TPersistent");
-    classes.Add("TCustomTreeView", "TWinControl", HMake<HView>);
-    classes.Add("TTreeView", "TCustomTreeView", nullptr,
-                Join({ViewRows(),
-                      Bools({"AutoExpand", "RightClickSelect"}),
-                      Bools({"ShowButtons", "ShowLines", "ShowRoot", "ToolTips"}, true),
-                      Ints({"ChangeDelay"}),
-                      Objects({"Images"}),
-                      {KeptInt("BevelWidth", 1), KeptInt("Indent", 19), KeptPart("Items", "TTreeNodes"),
-                       KeptSet("MultiSelectStyle", "TMultiSelectStyles", "msControlSelect")}}));
-}
-
-void RegisterList(HClasses& classes) {
-    classes.Add("TListItems", "TPersistent");
-    classes.Add(
-        "TIconOptions", "TPersistent", nullptr,
-        {KeptEnum("Arrangement", "TIconArrangement"), KeptBool("AutoArrange"), KeptBool("WrapText", true)});
-    classes.Add("TListColumn", "TCollectionItem", nullptr,
-                {KeptEnum("Alignment", "TAlignment"), KeptBool("AutoSize"), KeptText("Caption"),
-                 KeptInt("ImageIndex", -1), KeptInt("MaxWidth"), KeptInt("MinWidth"), KeptInt("Tag"),
-                 KeptInt("Width", 50)});
-    classes.AddCollection("TListColumns", "TListColumn");
-    classes.Add("TCustomListView", "TCustomMultiSelectListControl", HMake<HView>);
-    classes.Add(
-        "TListView", "TCustomListView", nullptr,
-        Join({ViewRows(),
-              Acting(),
-              Bools({"Checkboxes", "FlatScrollBars", "FullDrag", "GridLines", "OwnerData", "OwnerDraw",
-                     "ShowWorkAreas"}),
-              Bools({"ColumnClick", "ShowColumnHeaders"}, true),
-              Ints({"AllocBy"}),
-              Objects({"LargeImages", "SmallImages"}),
-              {KeptPart("Columns", "TListColumns"), KeptPart("IconOptions", "TIconOptions"),
-               KeptPart("Items", "TListItems"), KeptInt("HoverTime", -1),
-               KeptSet("HotTrackStyles", "TListHotTrackStyle"), KeptEnum("ViewStyle", "TViewStyle")}}));
-}
 
 void RegisterHeader(HClasses& classes) {
     classes.Add("THeaderSection", "TCollectionItem", nullptr,
@@ -112,8 +56,6 @@ void RegisterComboBoxEx(HClasses& classes) {
 }  // namespace
 
 void RegisterViewClasses(HClasses& classes) {
-    RegisterTree(classes);
-    RegisterList(classes);
     RegisterHeader(classes);
     RegisterComboBoxEx(classes);
     classes.Add("TCustomRichEdit", "TCustomMemo", HMake<HCustomRichEdit>);

@@ -16,7 +16,8 @@ using TPainterMap = std::unordered_map<std::string_view, HPaintProc>;
 const TPainterMap& Painters() {
     static const TPainterMap map = [] {
         TPainterMap made;
-        for (const auto& rows : {ButtonPainters(), TextPainters(), ListPainters(), PanelPainters()})
+        for (const auto& rows : {ButtonPainters(), TextPainters(), ListPainters(), TreePainters(),
+                                 ViewPainters(), PanelPainters()})
             for (const HPainter& row : rows) made.emplace(row.ClassName, row.Paint);
         return made;
     }();

@@ -24,6 +24,8 @@ std::span<const HPainter> ButtonPainters();
 std::span<const HPainter> TextPainters();
 std::span<const HPainter> ListPainters();
 std::span<const HPainter> PanelPainters();
+std::span<const HPainter> TreePainters();
+std::span<const HPainter> ViewPainters();
 
 // What a control says about its looks. Properties that it does not know read as 0, empty or the fallback.
 
@@ -40,6 +42,10 @@ TColor LookGround(const HControl& control);
 /// Colour of its text.
 TColor LookInk(const HControl& control);
 std::string LookCaption(const HControl& control);
+
+/// Buttons with texts next to each other, as wide as the collection's items say.
+void PaintSections(const HObject* part, std::string_view text, HCanvas& canvas, const TRect& bar, TColor ink,
+                   HEdge edge);
 
 void PaintImage(HCanvas& canvas, const TRect& place);
 

@@ -1,4 +1,4 @@
-// List boxes, combo boxes, grids, list views, headers, status bars.
+// List boxes, combo boxes, grids, headers, status bars.
 #include <algorithm>
 
 #include "platform/headless/HLimits.h"
@@ -37,7 +37,8 @@ void PaintComboBox(HControl& control, HCanvas& canvas, const TRect& room) {
                      HArrow::Down);
 }
 
-/// Buttons with texts next to each other, as wide as the collection's items say.
+}  // namespace
+
 void PaintSections(const HObject* part, std::string_view text, HCanvas& canvas, const TRect& bar, TColor ink,
                    HEdge edge) {
     canvas.Fill(bar, clBtnFace);
@@ -57,6 +58,8 @@ void PaintSections(const HObject* part, std::string_view text, HCanvas& canvas, 
     }
 }
 
+namespace {
+
 void PaintStatusBar(HControl& control, HCanvas& canvas, const TRect& room) {
     const TRect bar{0, 2, room.Right, room.Bottom};
     canvas.Fill(room, clBtnFace);
@@ -67,13 +70,6 @@ void PaintStatusBar(HControl& control, HCanvas& canvas, const TRect& room) {
     }
     canvas.Edge(bar, HEdge::Sunken);
     canvas.Text({4, 2, room.Right, room.Bottom}, LookName(control, "SimpleText"), clWindowText);
-}
-
-void PaintListView(HControl& control, HCanvas& canvas, const TRect& room) {
-    canvas.Fill(room, LookColor(control, clWindow));
-    if (LookName(control, "ViewStyle") == "vsReport" && LookInt(control, "ShowColumnHeaders", 1) != 0)
-        PaintSections(LookPart(control, "Columns"), "Caption", canvas, {0, 0, room.Right, Row + 2},
-                      LookInk(control), HEdge::Raised);
 }
 
 void PaintHeader(HControl& control, HCanvas& canvas, const TRect& room) {
@@ -106,22 +102,13 @@ void PaintGrid(HControl& control, HCanvas& canvas, const TRect& room) {
     for (int y = height; y <= cells.Bottom; y += height) canvas.Fill({0, y - 1, cells.Right, y}, clBtnShadow);
 }
 
-void PaintWhite(HControl& control, HCanvas& canvas, const TRect& room) {
-    canvas.Fill(room, LookColor(control, clWindow));
-}
-
 }  // namespace
 
 std::span<const HPainter> ListPainters() {
     static constexpr HPainter rows[] = {
-        {"TCustomListBox", PaintListBox},
-        {"TCustomCombo", PaintComboBox},
-        {"TCustomStatusBar", PaintStatusBar},
-        {"TCustomListView", PaintListView},
-        {"TCustomHeaderControl", PaintHeader},
-        {"TCustomDBGrid", PaintDataGrid},
-        {"TCustomGrid", PaintGrid},
-        {"TCustomTreeView", PaintWhite},
+        {"TCustomListBox", PaintListBox},     {"TCustomCombo", PaintComboBox},
+        {"TCustomStatusBar", PaintStatusBar}, {"TCustomHeaderControl", PaintHeader},
+        {"TCustomDBGrid", PaintDataGrid},     {"TCustomGrid", PaintGrid},
         {"TDBLookupComboBox", PaintComboBox},
     };
     return rows;

@@ -6,7 +6,6 @@ namespace rux {
 
 namespace {
 
-constexpr WParam VK_UP = 38;
 constexpr int ButtonWidth = 16;
 
 bool ListOnly(const HWindow& combo) {

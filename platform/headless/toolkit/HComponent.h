@@ -20,8 +20,23 @@ struct HEventArgs {
     /// counts.
     int Value = 0;
     TPoint Point;
+    /// OnEdited: the new text, which the handler may change.
+    std::string Text = {};
+    /// The node, item or page that the event is about; nil where it is about none.
+    HObject* Object = nullptr;
 };
 using HHandler = std::function<void(HObject& sender, HEventArgs& args)>;
+
+/// One line of what a component holds beyond its components: an item, a node, a column, a tab, a panel.
+struct HContentLine {
+    std::string_view Kind;
+    /// 0 for what the component holds itself, one more for each level below.
+    std::size_t Depth = 0;
+    /// As a person would read it; several columns are several texts.
+    std::vector<std::string> Texts;
+    /// Such as "checked" or "selected"; empty for nothing to say.
+    std::string State = {};
+};
 
 class HComponent : public With<HObject, TComponent> {
  public:
@@ -54,6 +69,8 @@ class HComponent : public With<HObject, TComponent> {
     /// While a form file is being read nothing fires.
     bool Loading() const { return FLoading; }
     void BeginLoading() { FLoading = true; }
+    /// What a dump shows below the component's own line.
+    virtual std::vector<HContentLine> Content() { return {}; }
     /// Called once all properties of the form file are in.
     virtual void Loaded() { FLoading = false; }
 

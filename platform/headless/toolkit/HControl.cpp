@@ -118,10 +118,17 @@ void HControl::Click() {
         action->Execute();
 }
 
-void HControl::CallOnClick() {
-    if (Fire(Kit().Names().OnClick)) return;
+bool HControl::TryOnClick() {
     // A linked control's OnClick field holds the action's OnExecute.
-    if (!Action() || !Action()->FireExecute()) RaiseNilAccess();
+    return Fire(Kit().Names().OnClick) || (Action() && Action()->FireExecute());
+}
+
+void HControl::CallOnClick() {
+    if (!TryOnClick()) RaiseNilAccess();
+}
+
+void HControl::FireOnDblClick() {
+    Fire(Kit().Names().OnDblClick);
 }
 
 // ------------------------------------------------------------------------------------------------ mouse

@@ -42,6 +42,9 @@ class HControl : public With<HComponent, TControl>, public HActionClient {
     TObject* PopupMenu() override { return FPopupMenu.Get(); }
     void Click() override;
     void CallOnClick() override;
+    void FireOnClick() override { TryOnClick(); }
+    void FireOnDblClick() override;
+    LResult Perform(unsigned message, WParam wParam, LParam lParam) override;
 
     int Left() const { return FBounds.Left; }
     int Top() const { return FBounds.Top; }
@@ -79,8 +82,6 @@ class HControl : public With<HComponent, TControl>, public HActionClient {
     /// Rectangle on the screen, frame included.
     virtual TRect ScreenRect();
 
-    /// Handles a message directly, without the window system.
-    LResult Perform(unsigned message, WParam wParam, LParam lParam);
     virtual void HandleMessage(HMessage& message);
 
  protected:
@@ -106,6 +107,8 @@ class HControl : public With<HComponent, TControl>, public HActionClient {
     void ButtonDown(HMouseButton button, HMessage& message, bool isDouble);
     void ButtonUp(HMouseButton button, HMessage& message);
     void CancelMouse();
+    /// False when nothing is in the OnClick field.
+    bool TryOnClick();
     bool AnswerContextMenu(TPoint screen);
 
     TRect FBounds;

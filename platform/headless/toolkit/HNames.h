@@ -19,7 +19,13 @@ struct HNames {
           OnActivate = InternName("OnActivate"), OnDeactivate = InternName("OnDeactivate"),
           OnExecute = InternName("OnExecute"), OnUpdate = InternName("OnUpdate"),
           OnPopup = InternName("OnPopup"), OnTimer = InternName("OnTimer"),
-          OnContextPopup = InternName("OnContextPopup");
+          OnContextPopup = InternName("OnContextPopup"), OnChanging = InternName("OnChanging"),
+          OnExpanding = InternName("OnExpanding"), OnExpanded = InternName("OnExpanded"),
+          OnCollapsing = InternName("OnCollapsing"), OnCollapsed = InternName("OnCollapsed"),
+          OnEditing = InternName("OnEditing"), OnEdited = InternName("OnEdited"),
+          OnSelectItem = InternName("OnSelectItem"), OnColumnClick = InternName("OnColumnClick"),
+          OnDropDown = InternName("OnDropDown"), OnCloseUp = InternName("OnCloseUp"),
+          OnSelect = InternName("OnSelect"), OnClickCheck = InternName("OnClickCheck");
 };
 
 }  // namespace rux

@@ -63,7 +63,8 @@ class HObject : public TObject {
 
     /// Bytes that a form file stores beside the published properties; nil if there are none.
     const std::string* Blob(TName name) const;
-    void StoreBlob(TName name, std::string bytes);
+    /// Kept as they are; an object that knows what they mean takes them apart.
+    virtual void StoreBlob(TName name, std::string bytes);
 
     HToolkit& Kit() const { return FKit; }
     const HClassDef& Def() const { return FDef; }

@@ -1,12 +1,45 @@
 #include "platform/headless/toolkit/HStrings.h"
 
 #include "rtl/StringList.h"
+#include "rtl/Text.h"
 
 namespace rux {
 
 void HStrings::SetLines(std::vector<std::string> lines) {
     FLines = std::move(lines);
     if (FOnChange) FOnChange();
+}
+
+namespace {
+
+std::string LineOf(const std::vector<std::string>& lines, int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= lines.size())
+        throw EStringListError("List index out of bounds (" + std::to_string(index) + ")");
+    return lines[static_cast<std::size_t>(index)];
+}
+
+int PlaceOf(const std::vector<std::string>& lines, const std::string& text) {
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        if (AnsiSameText(lines[i], text)) return static_cast<int>(i);
+    return -1;
+}
+
+}  // namespace
+
+std::string HStrings::Get(int index) {
+    return LineOf(FLines, index);
+}
+
+int HStrings::IndexOf(const std::string& text) {
+    return PlaceOf(FLines, text);
+}
+
+std::string HTextLines::Get(int index) {
+    return LineOf(Lines(), index);
+}
+
+int HTextLines::IndexOf(const std::string& text) {
+    return PlaceOf(Lines(), text);
 }
 
 std::string HStrings::Text() const {

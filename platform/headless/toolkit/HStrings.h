@@ -12,17 +12,21 @@
 namespace rux {
 
 /// A list of lines. Changes are told to whoever shows them.
-class HStrings : public HObject {
+class HStrings : public HObject, public TStrings {
  public:
     using HObject::HObject;
     virtual std::vector<std::string> Lines() const { return FLines; }
     virtual void SetLines(std::vector<std::string> lines);
-    std::size_t Count() const { return Lines().size(); }
+
+    // TStrings
+    int Count() override { return static_cast<int>(FLines.size()); }
+    std::string Get(int index) override;
+    int IndexOf(const std::string& text) override;
+
     /// Every line with CR LF behind it.
     std::string Text() const;
     void SetText(std::string_view text);
     void SetOnChange(std::function<void()> handler) { FOnChange = std::move(handler); }
-    int CountValue() const { return static_cast<int>(Count()); }
 
  private:
     std::vector<std::string> FLines;
@@ -36,6 +40,9 @@ class HTextLines : public HStrings {
     void Attach(std::function<std::string()> get, std::function<void(std::string)> set);
     std::vector<std::string> Lines() const override;
     void SetLines(std::vector<std::string> lines) override;
+    int Count() override { return static_cast<int>(Lines().size()); }
+    std::string Get(int index) override;
+    int IndexOf(const std::string& text) override;
 
  private:
     std::function<std::string()> FGet;

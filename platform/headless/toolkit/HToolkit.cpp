@@ -19,8 +19,8 @@ std::string ObjectAtomName(std::uint32_t process) {
 
 }  // namespace
 
-HToolkit::HToolkit(HDesktop& desktop, TClockService& clock)
-    : FDesktop(desktop), FClock(clock), FRegistered(desktop.CodeSpace()), FNextRef(HRefBase) {
+HToolkit::HToolkit(HDesktop& desktop, TClockService& clock, TFileService& files)
+    : FDesktop(desktop), FClock(clock), FFiles(files), FRegistered(desktop.CodeSpace()), FNextRef(HRefBase) {
     RegisterToolkitClasses(FClasses);
     FObjectAtom = desktop.GlobalAddAtomA(ObjectAtomName(desktop.ProcessId()));
     FApplication = std::make_unique<HApplication>(*this, *FClasses.FindDef("TApplication"));

@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/FileService.h"
 #include "platform/headless/toolkit/HApplication.h"
 #include "platform/headless/toolkit/HClasses.h"
 #include "platform/headless/toolkit/HNames.h"
@@ -22,11 +23,12 @@ class HWinControl;
 /// Lives on the user-interface thread, the one that made the desktop.
 class HToolkit final : public TToolkit, public TScreen, public TMouse {
  public:
-    HToolkit(HDesktop& desktop, TClockService& clock);
+    HToolkit(HDesktop& desktop, TClockService& clock, TFileService& files);
     ~HToolkit() override;
 
     HDesktop& Desktop() const { return FDesktop; }
     TClockService& Clock() const { return FClock; }
+    TFileService& Files() const { return FFiles; }
     HClasses& ClassDefs() { return FClasses; }
     HApplication& App() { return *FApplication; }
     const HNames& Names() const { return FNames; }
@@ -92,6 +94,7 @@ class HToolkit final : public TToolkit, public TScreen, public TMouse {
  private:
     HDesktop& FDesktop;
     TClockService& FClock;
+    TFileService& FFiles;
     HNames FNames;
     HClasses FClasses;
     HRegisteredClasses FRegistered;

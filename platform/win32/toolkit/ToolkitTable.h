@@ -144,13 +144,14 @@ typedef struct RUXBox {
 
 /// What Invoke does.
 enum {
-    RUX_CLICK = 1,             ///< the TControl's dynamic method Click, enabled or not
-    RUX_CALL_ON_CLICK = 2,     ///< the handler in its OnClick with itself as sender; none: RUX_GONE
-    RUX_SET_FOCUS = 3,         ///< of a TWinControl; it raises as always when it cannot have the focus
-    RUX_BRING_TO_FRONT = 4,    ///< of a TControl
-    RUX_UPDATE_ACTIONS = 5,    ///< of a TCustomForm
-    RUX_PROCESS_MESSAGES = 6,  ///< of the application: dispatches until none is left; the object is 0
-    RUX_DOUBLE_CLICK = 7       ///< of a TControl. Not asked yet.
+    RUX_CLICK = 1,              ///< the TControl's dynamic method Click, enabled or not
+    RUX_CALL_ON_CLICK = 2,      ///< the handler in its OnClick with itself as sender; none: RUX_GONE
+    RUX_SET_FOCUS = 3,          ///< of a TWinControl; it raises as always when it cannot have the focus
+    RUX_BRING_TO_FRONT = 4,     ///< of a TControl
+    RUX_UPDATE_ACTIONS = 5,     ///< of a TCustomForm
+    RUX_PROCESS_MESSAGES = 6,   ///< of the application: dispatches until none is left; the object is 0
+    RUX_FIRE_ON_DBL_CLICK = 7,  ///< the handler in the OnDblClick of a TControl, if there is one
+    RUX_FIRE_ON_CLICK = 8       ///< the handler in its OnClick, if there is one
 };
 
 /// The application at a glance.

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "platform/win32/Headers.h"
+
 namespace rux {
 
 void* WBridgeObject::Facet(TFacetId id) {
@@ -35,6 +37,11 @@ bool WBridgeObject::GetProp(TName name, TPropValue& value) {
 TPoint WBridgeObject::ClientOrigin() {
     const TRect place = FBridge.Bounds(FIdentity.Ref, RUX_CLIENT_ORIGIN);
     return {place.Left, place.Top};
+}
+
+LResult WBridgeObject::Perform(unsigned message, WParam wParam, LParam lParam) {
+    const auto window = reinterpret_cast<HWND>(Handle());
+    return ::SendMessageA(window, message, static_cast<WPARAM>(wParam), static_cast<LPARAM>(lParam));
 }
 
 TFormStyle WBridgeObject::FormStyle() {

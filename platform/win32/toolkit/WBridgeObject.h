@@ -50,6 +50,10 @@ class WBridgeObject : public TObject,
     TObject* PopupMenu() override { return FBridge.Relation(FIdentity.Ref, RUX_POPUP_MENU); }
     void Click() override { FBridge.Invoke(FIdentity.Ref, RUX_CLICK); }
     void CallOnClick() override { FBridge.Invoke(FIdentity.Ref, RUX_CALL_ON_CLICK); }
+    void FireOnClick() override { FBridge.Invoke(FIdentity.Ref, RUX_FIRE_ON_CLICK); }
+    void FireOnDblClick() override { FBridge.Invoke(FIdentity.Ref, RUX_FIRE_ON_DBL_CLICK); }
+    /// Through the control's window, whose procedure hands the message on.
+    LResult Perform(unsigned message, WParam wParam, LParam lParam) override;
 
     // TWinControl
     HWnd Handle() override { return FBridge.Window(FIdentity.Ref); }

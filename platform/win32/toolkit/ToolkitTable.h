@@ -110,7 +110,31 @@ enum {
     RUX_ACTIVE = 8,            ///< TCustomForm (ENUMERATION)
     RUX_READ_ONLY = 9,         ///< TCustomEdit (ENUMERATION)
     RUX_CHECKED = 10,          ///< TCustomCheckBox: also set, OnClick fires on a change; TRadioButton: read
-    RUX_DATE_TIME = 11         ///< TDateTimePicker: date and time; also set, nothing fires (FLOAT)
+    RUX_DATE_TIME = 11,        ///< TDateTimePicker: date and time; also set, nothing fires (FLOAT)
+    // RUX_TEXT, RUX_VISIBLE, RUX_ENABLED and RUX_CHECKED of a TMenuItem, RUX_TEXT of a TTreeNode, RUX_TEXT
+    // and RUX_CHECKED (also set) of a TListItem are its Caption or Text, Visible, Enabled and Checked.
+    // RUX_TEXT of a TCustomCombo can be set.
+    /// ItemIndex of TCustomListBox and TCustomCombo, TabIndex of TCustomTabControl, TTabSet, TTBXImageTabSet:
+    /// also set, as code sets them. Read alone: TabIndex of TTabSheet, MenuIndex of TMenuItem, index of the
+    /// selected item of TShellListView (INTEGER)
+    RUX_INDEX = 12,
+    RUX_SELECTED_FLAG = 13,  ///< TTreeNode, TListItem: Selected; set alone (ENUMERATION)
+    RUX_EXPANDED = 14,       ///< TTreeNode; also set (ENUMERATION)
+    RUX_HAS_CHILDREN = 15,   ///< TTreeNode (ENUMERATION)
+    RUX_LEVEL = 16,          ///< TTreeNode (INTEGER)
+    RUX_ITEM_ID = 17,        ///< TTreeNode: the handle of its item (INT64)
+    RUX_CHECK_STATE = 18,    ///< TRichTreeNode: its field; also set, nothing fires (INTEGER)
+    RUX_CHECKED_BY_TREE =
+        19,                ///< TTreeNode: set by the TRichTreeView's own method, events fire (ENUMERATION)
+    RUX_EDITED_TEXT = 20,  ///< TTreeNode: set as if a label edit ended with it: TCustomTreeView.Edit (STRING)
+    RUX_SELECTED_NODE = 21,    ///< TCustomTreeView: its Selected; set alone (CLASS)
+    RUX_SAVED_FILE = 22,       ///< TCustomTreeView: set saves the tree to the file of that name (STRING)
+    RUX_VIEW_STYLE = 23,       ///< TCustomListView: 0 icons, 1 small icons, 2 list, 3 report (ENUMERATION)
+    RUX_CAN_CHANGE = 24,       ///< TCustomTabControl: calls CanChange, OnChanging fires (ENUMERATION)
+    RUX_ACTIVE_PAGE_SET = 25,  ///< TPageControl, TFlatPageControl: ActivePage; set alone (CLASS)
+    RUX_TAB_VISIBLE = 26,      ///< TTabSheet, TFlatTabSheet (ENUMERATION)
+    RUX_TAB_FLAG = 27,         ///< TTBXPageControl: 1 for tabs that are shown (INTEGER)
+    RUX_PATH = 28              ///< TShellComboBox: Path; also set (STRING)
 };
 
 enum {
@@ -120,21 +144,45 @@ enum {
     RUX_MAIN_FORM = 4,    ///< of the application; the object is 0
     RUX_ACTIVE_FORM = 5,  ///< of the screen; the object is 0
     /// The control of this process behind a window: the object is the window's handle. Not asked yet.
-    RUX_CONTROL_OF_WINDOW = 6
+    RUX_CONTROL_OF_WINDOW = 6,
+    RUX_ROOT_ITEM = 7,      ///< Items of a TPopupMenu
+    RUX_SELECTED = 8,       ///< of a TCustomTreeView, a TCustomListView
+    RUX_FIRST_NODE = 9,     ///< of a TCustomTreeView
+    RUX_NODE_PARENT = 10,   ///< of a TTreeNode
+    RUX_NEXT_SIBLING = 11,  ///< of a TTreeNode
+    RUX_FIRST_CHILD = 12,   ///< of a TTreeNode
+    RUX_ACTIVE_PAGE = 13,   ///< of a TPageControl, a TFlatPageControl
+    RUX_PAGE_CONTROL = 14   ///< of a TTabSheet, a TFlatTabSheet
 };
 
-/// Rows of objects.
+/// Rows of objects, and of entries that are none: those are counted, too, and asked for by GetEntry.
 enum {
     RUX_CONTROLS = 1,      ///< of a TWinControl: graphic ones, then windowed ones, each from bottom to top
     RUX_FORMS = 2,         ///< of the screen in its order; the object is 0
     RUX_MDI_CHILDREN = 3,  ///< of a TCustomForm
-    RUX_COMPONENTS = 4     ///< that a TComponent owns. Not asked yet.
+    RUX_COMPONENTS = 4,    ///< that a TComponent owns. Not asked yet.
+    RUX_MENU_ITEMS = 5,    ///< of a TMenuItem
+    RUX_NODES = 6,         ///< of a TCustomTreeView, all of them in depth-first order
+    RUX_LIST_ITEMS = 7,    ///< of a TCustomListView
+    RUX_PAGES = 8,         ///< of a TPageControl, a TFlatPageControl
+    /// Items of TCustomListBox and TCustomCombo, Tabs of TCustomTabControl and TTabSet, captions of the tabs
+    /// of TTBXImageTabSet, texts of the panels of TStatusBar and TTBXStatusBar, SubItems of TListItem
+    /// (STRING)
+    RUX_LINES = 9,
+    RUX_COLUMNS = 10,         ///< captions of the columns of a TCustomListView (STRING)
+    RUX_FOLDERS = 11,         ///< display names of the entries of a TShellListView (STRING)
+    RUX_SELECTED_LINES = 12,  ///< TCustomListBox.Selected (ENUMERATION)
+    RUX_CHECKED_LINES = 13    ///< TCheckListBox.Checked; also set, nothing fires (ENUMERATION)
 };
 
 enum {
-    RUX_BOUNDS = 1,        ///< in the parent's client coordinates, a form's on the screen
-    RUX_CLIENT = 2,        ///< left and top are 0 as a rule
-    RUX_CLIENT_ORIGIN = 3  ///< left and top: the client area's position on the screen
+    RUX_BOUNDS = 1,         ///< in the parent's client coordinates, a form's on the screen
+    RUX_CLIENT = 2,         ///< left and top are 0 as a rule
+    RUX_CLIENT_ORIGIN = 3,  ///< left and top: the client area's position on the screen
+    RUX_NODE = 4,           ///< DisplayRect of a TTreeNode
+    RUX_NODE_TEXT = 5,      ///< the same of its text only
+    RUX_ITEM = 6,           ///< DisplayRect of a TListItem: drBounds; then drIcon, drLabel, drSelectBounds
+    RUX_ENTRY = 10          ///< EntryBounds: ItemRect or TabRect in client coordinates
 };
 
 /// Right and Bottom lie just outside.
@@ -151,7 +199,9 @@ enum {
     RUX_UPDATE_ACTIONS = 5,     ///< of a TCustomForm
     RUX_PROCESS_MESSAGES = 6,   ///< of the application: dispatches until none is left; the object is 0
     RUX_FIRE_ON_DBL_CLICK = 7,  ///< the handler in the OnDblClick of a TControl, if there is one
-    RUX_FIRE_ON_CLICK = 8       ///< the handler in its OnClick, if there is one
+    RUX_FIRE_ON_CLICK = 8,      ///< the handler in its OnClick, if there is one
+    RUX_CHANGE = 9,             ///< the dynamic method Change of a TCustomTabControl
+    RUX_MAKE_VISIBLE = 10       ///< of a TTreeNode, a TListItem (also partly)
 };
 
 /// The application at a glance.
@@ -217,6 +267,14 @@ typedef struct RUXTable {
     RUXStatus(RUX_CALL* GetCell)(RUXRef object, int32_t row, int32_t column, const RUXReply* reply);
     RUXStatus(RUX_CALL* SetCell)(RUXRef object, int32_t row, int32_t column, const char* text,
                                  uint32_t length, const RUXReply* reply);
+
+    /// Entries of a row, from 0; RUX_NONE for an index outside.
+    RUXStatus(RUX_CALL* GetEntry)(RUXRef object, int32_t row, int32_t index, RUXValue* value,
+                                  const RUXReply* reply);
+    RUXStatus(RUX_CALL* SetEntry)(RUXRef object, int32_t row, int32_t index, const RUXValue* value,
+                                  const RUXReply* reply);
+    RUXStatus(RUX_CALL* EntryBounds)(RUXRef object, int32_t which, int32_t index, RUXBox* box,
+                                     const RUXReply* reply);
 } RUXTable;
 
 /// The exported function's type.

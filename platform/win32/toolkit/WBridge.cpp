@@ -34,6 +34,10 @@ void Demand(Function function, Arguments... arguments) {
     if (!Ask(function, arguments...)) RaiseNilAccess();
 }
 
+[[noreturn]] void RaiseNoEntry(int index) {
+    throw EStringListError(Format("List index out of bounds (%d)", {index}));
+}
+
 RUXApplicationState StateOf(const RUXTable& table) {
     RUXApplicationState state{};
     table.Application(&state);
@@ -202,6 +206,29 @@ bool WBridge::GetProperty(RUXRef ref, TName name, TPropValue& value) {
 
 void WBridge::Invoke(RUXRef ref, std::int32_t verb) {
     Demand(FTable.Invoke, ref, verb);
+}
+
+RUXValue WBridge::EntryOf(RUXRef ref, std::int32_t row, int index) {
+    RUXValue value{};
+    if (!Ask(FTable.GetEntry, ref, row, static_cast<std::int32_t>(index), &value)) RaiseNoEntry(index);
+    return value;
+}
+
+std::string WBridge::EntryText(RUXRef ref, std::int32_t row, int index) {
+    RUXValue value{};
+    WReply reply;
+    if (!reply.Check(FTable.GetEntry(ref, row, index, &value, reply.Sinks()))) RaiseNoEntry(index);
+    return std::move(reply.Text());
+}
+
+void WBridge::SetEntry(RUXRef ref, std::int32_t row, int index, const RUXValue& value) {
+    if (!Ask(FTable.SetEntry, ref, row, static_cast<std::int32_t>(index), &value)) RaiseNoEntry(index);
+}
+
+TRect WBridge::EntryBounds(RUXRef ref, int index) {
+    RUXBox box{};
+    if (!Ask(FTable.EntryBounds, ref, RUX_ENTRY, static_cast<std::int32_t>(index), &box)) return {};
+    return {box.Left, box.Top, box.Right, box.Bottom};
 }
 
 }  // namespace rux

@@ -65,6 +65,12 @@ class WBridge {
     /// False when there is none of that name.
     bool GetProperty(RUXRef ref, TName name, TPropValue& value);
     void Invoke(RUXRef ref, std::int32_t verb);
+    /// Raise EStringListError "List index out of bounds (<index>)".
+    RUXValue EntryOf(RUXRef ref, std::int32_t row, int index);
+    std::string EntryText(RUXRef ref, std::int32_t row, int index);
+    void SetEntry(RUXRef ref, std::int32_t row, int index, const RUXValue& value);
+    /// Empty for an index outside.
+    TRect EntryBounds(RUXRef ref, int index);
 
  private:
     const TClass& ClassOf(RUXClass type, RUXRef object);

@@ -26,7 +26,8 @@ void* WBridgeObject::Facet(TFacetId id) {
         case TFacetId::DateTimePicker:
             return static_cast<TDateTimePicker*>(this);
         default:
-            return nullptr;
+            if (!FFamily) FFamily = MakeBridgeFamily({FBridge, FIdentity.Ref}, *FIdentity.Class);
+            return FFamily ? FFamily->Facet(id) : nullptr;
     }
 }
 
@@ -53,18 +54,11 @@ TDateTime WBridgeObject::Date() {
 }
 
 void WBridgeObject::SetText(const std::string& text) {
-    RUXValue value{};
-    value.Kind = RUX_KIND_STRING;
-    value.Text = text.c_str();
-    value.TextLength = static_cast<std::uint32_t>(text.size());
-    FBridge.SetValue(FIdentity.Ref, RUX_TEXT, value);
+    FBridge.SetValue(FIdentity.Ref, RUX_TEXT, WText(text));
 }
 
 void WBridgeObject::SetChecked(bool checked) {
-    RUXValue value{};
-    value.Kind = RUX_KIND_ENUMERATION;
-    value.Ordinal = checked ? 1 : 0;
-    FBridge.SetValue(FIdentity.Ref, RUX_CHECKED, value);
+    FBridge.SetValue(FIdentity.Ref, RUX_CHECKED, WFlag(checked));
 }
 
 void WBridgeObject::SetDateTime(TDateTime when) {

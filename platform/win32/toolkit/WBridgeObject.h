@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "platform/toolkit/Controls.h"
 #include "platform/toolkit/Forms.h"
 #include "platform/toolkit/StdCtrls.h"
 #include "platform/win32/toolkit/WBridge.h"
+#include "platform/win32/toolkit/WBridgeFamily.h"
 
 namespace rux {
 
@@ -86,6 +88,8 @@ class WBridgeObject : public TObject,
     bool Flag(std::int32_t what) { return FBridge.ValueOf(FIdentity.Ref, what).Ordinal != 0; }
 
     const WIdentity FIdentity;
+    /// Made when somebody first asks for what its class has beyond the operations above.
+    std::unique_ptr<WBridgeFamily> FFamily;
 };
 
 /// The application object. It lives as long as the process, so that nobody has to be asked about it, and

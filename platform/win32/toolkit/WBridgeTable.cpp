@@ -11,7 +11,8 @@ namespace {
 
 bool HasRequired(const RUXTable& t) {
     return t.Application && t.Alive && t.ClassInfo && t.Relation && t.Count && t.Child && t.Bounds &&
-           t.Window && t.GetValue && t.SetValue && t.GetProperty && t.Invoke;
+           t.Window && t.GetValue && t.SetValue && t.GetProperty && t.Invoke && t.GetEntry && t.SetEntry &&
+           t.EntryBounds;
 }
 
 /// nil for a table that can be used. Of another version nothing but the first two fields is read.

@@ -12,15 +12,20 @@
 namespace rux::fake {
 
 constexpr RUXRef AppRef = 0x10, FormRef = 0x20, EditRef = 0x30, CheckRef = 0x40, ButtonRef = 0x50,
-                 DateRef = 0x60, MenuRef = 0x70, RadioRef = 0x80;
+                 DateRef = 0x60, MenuRef = 0x70, RadioRef = 0x80, TreeRef = 0x90, NodeRef = 0xA0,
+                 OtherRef = 0xB0;
 
 // Name and parent of each class; its reference is its place.
 // clang-format off
 constexpr std::pair<const char*, RUXClass> Classes[] = {
     {"", 0}, {"TObject", 0}, {"TPersistent", 1}, {"TComponent", 2}, {"TControl", 3}, {"TWinControl", 4},
     {"TCustomForm", 5}, {"TCustomEdit", 5}, {"TCustomCheckBox", 5}, {"TRadioButton", 5}, {"TButton", 5},
-    {"TDateTimePicker", 5}, {"TPopupMenu", 3}};
-enum : RUXClass { fcForm = 6, fcEdit, fcCheck, fcRadio, fcButton, fcDate, fcMenu };
+    {"TDateTimePicker", 5}, {"TPopupMenu", 3}, {"TCustomTreeView", 5}, {"TRichTreeView", 13}, {"TTreeNode", 2},
+    {"TRichTreeNode", 15}, {"TCustomListBox", 5}, {"TCheckListBox", 17}, {"TCustomCombo", 5}, {"TShellComboBox", 19},
+    {"TCustomListView", 5}, {"TShellListView", 21}, {"TListItem", 2}, {"TMenuItem", 3}, {"TCustomTabControl", 5},
+    {"TPageControl", 25}, {"TTBXPageControl", 26}, {"TTabSheet", 5}, {"TFlatTabSheet", 5}, {"TFlatPageControl", 5},
+    {"TTabSet", 5}, {"TTBXImageTabSet", 5}, {"TStatusBar", 5}, {"TTBXStatusBar", 5}};
+enum : RUXClass { fcForm = 6, fcEdit, fcCheck, fcRadio, fcButton, fcDate, fcMenu, fcRichTree = 14, fcRichNode = 16 };
 // clang-format on
 
 struct TValue {
@@ -78,9 +83,11 @@ inline RUXStatus RUX_CALL ClassInfo(RUXClass type, RUXClass* parent, const RUXRe
     return Tell(reply, Classes[type].first);
 }
 
+/// What the families' relations and rows lead to is a node or the other one.
 inline RUXStatus RUX_CALL Relation(RUXRef object, std::int32_t relation, RUXRef* result, const RUXReply*) {
     const TFakeObject* found = Find(object);
     if (!found) return *result = object == 0 ? FormRef : 0, object == 0 ? RUX_OK : RUX_GONE;
+    if (relation >= RUX_ROOT_ITEM) *result = relation == RUX_SELECTED ? 0 : NodeRef;
     if (relation == RUX_POPUP_MENU) *result = object == EditRef ? MenuRef : 0;
     if (relation == RUX_PARENT) *result = found->Parent;
     if (relation == RUX_OWNER) *result = found->Parent ? found->Parent : AppRef;
@@ -89,6 +96,7 @@ inline RUXStatus RUX_CALL Relation(RUXRef object, std::int32_t relation, RUXRef*
 
 inline std::vector<RUXRef> Row(RUXRef object, std::int32_t row) {
     if (row == RUX_FORMS) return {FormRef};
+    if (row >= RUX_MENU_ITEMS) return {NodeRef, OtherRef};
     std::vector<RUXRef> children;
     for (const auto& [ref, child] : App->Objects)
         if (child.Parent == object) children.push_back(ref);
@@ -138,6 +146,27 @@ inline RUXStatus RUX_CALL SetValue(RUXRef object, std::int32_t what, const RUXVa
     return RUX_OK;
 }
 
+/// Two entries in each row, told by row and index; flags hold for the second.
+inline RUXStatus RUX_CALL GetEntry(RUXRef, std::int32_t row, std::int32_t index, RUXValue* value,
+                                   const RUXReply* reply) {
+    if (index < 0 || index > 1) return RUX_NONE;
+    value->Ordinal = index;
+    return Tell(reply, std::to_string(row) + "." + std::to_string(index));
+}
+
+inline RUXStatus RUX_CALL SetEntry(RUXRef object, std::int32_t row, std::int32_t index, const RUXValue* value,
+                                   const RUXReply*) {
+    App->Log.push_back(std::to_string(object) + ":" + std::to_string(row) + "." + std::to_string(index) +
+                       "=" + std::to_string(value->Ordinal));
+    return RUX_OK;
+}
+
+inline RUXStatus RUX_CALL EntryBounds(RUXRef, std::int32_t which, std::int32_t index, RUXBox* box,
+                                      const RUXReply*) {
+    *box = {which, index, which + 1, index + 1};
+    return index < 2 ? RUX_OK : RUX_NONE;
+}
+
 /// Any object has "Kind<n>", of that kind, as long as its class is told to publish it.
 inline RUXStatus RUX_CALL GetProperty(RUXRef object, const char* name, RUXValue* value,
                                       const RUXReply* reply) {
@@ -173,13 +202,15 @@ inline TFakeApplication& NewApplication(std::uint32_t thread) {
     // clang-format off
     App->Table = {sizeof(RUXTable), RUX_TABLE_VERSION, &Application, &Alive, &ClassInfo, &Relation, &Count,
                   &Child, &Bounds, &Window, &GetValue, &SetValue, &GetProperty, &Invoke, &ListProperties,
-                  &ReportError, nullptr, nullptr, nullptr};
+                  &ReportError, nullptr, nullptr, nullptr, &GetEntry, &SetEntry, &EntryBounds};
     App->Objects = {
         {FormRef, {fcForm, 1, 0, {{RUX_FORM_STYLE, {2}}, {RUX_MODAL, yes}, {RUX_ACTIVE, yes}}}},
         {EditRef, {fcEdit, 2, FormRef, {{RUX_NAME, {0, 0, "Edit1"}}, {RUX_TEXT, {0, 0, "\xD6\xD0 text"}},
                                         {RUX_READ_ONLY, yes}, {RUX_VISIBLE, yes}, {RUX_ENABLED, {}}}}},
         {CheckRef, {fcCheck, 3, FormRef, {{RUX_CHECKED, {}}, {RUX_HANDLE_ALLOCATED, yes}}}},
         {DateRef, {fcDate, 5, FormRef, {{RUX_DATE_TIME, {0, 39512.75}}}}}, {MenuRef, {fcMenu, 7, 0}},
+        {TreeRef, {fcRichTree, 8}},
+        {NodeRef, {fcRichNode, 9, 0, {{RUX_TEXT, {0, 0, "root"}}, {RUX_LEVEL, {2}}}}}, {OtherRef, {fcRichNode, 10}},
         {RadioRef, {fcRadio, 6, FormRef, {{RUX_CHECKED, yes}}}}, {ButtonRef, {fcButton, 4, FormRef}}};
     // clang-format on
     return *App;

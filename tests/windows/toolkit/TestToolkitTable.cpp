@@ -6,8 +6,12 @@
 #include <thread>
 #include <tuple>
 
+#include "platform/toolkit/ComCtrls.h"
 #include "platform/toolkit/Controls.h"
+#include "platform/toolkit/ExtraCtrls.h"
 #include "platform/toolkit/Forms.h"
+#include "platform/toolkit/Menus.h"
+#include "platform/toolkit/ShellCtrls.h"
 #include "platform/toolkit/StdCtrls.h"
 #include "platform/win32/Headers.h"
 #include "platform/win32/Win32Thunks.h"
@@ -33,6 +37,15 @@ struct TAttached : testing::Test {
     WToolkit Kit{Thunks};
     TApplication& Application = Cast<TApplication>(&Kit.Application());
     TObject* Of(RUXRef ref) { return Kit.ObjectOfProp(ref); }
+    /// A new object of that class, with these values.
+    RUXRef New(std::string_view className, std::map<int, TValue> values = {}) {
+        RUXClass type = 0;
+        while (Classes[type].first != className) ++type;
+        const RUXRef ref = 0x1000 + 16 * static_cast<RUXRef>(App.Objects.size());
+        App.Objects[ref] = {type, ref, 0, std::move(values)};
+        return ref;
+    }
+    TValue& Value(RUXRef ref, int what) { return App.Objects[ref].Values[what]; }
     template <class T>
     T& As(RUXRef ref) {
         return Cast<T>(Of(ref));
@@ -122,6 +135,67 @@ TEST_F(TAttached, ReadsValuesPlacesAndOthers) {
     EXPECT_EQ(As<TDateTimePicker>(DateRef).Date(), 39512);
     EXPECT_TRUE(As<TRadioButton>(RadioRef).Checked());
     EXPECT_EQ(Raised([&] { As<TControl>(ButtonRef).Visible(); }), Nil);  // nothing of the kind
+}
+
+TEST_F(TAttached, ListsAndMenus) {
+    const RUXRef box = New("TCheckListBox", {{RUX_INDEX, {1}}}),
+                 view = New("TShellListView", {{RUX_VIEW_STYLE, {3}}});
+    auto& list = As<TCustomListBox>(box);
+    EXPECT_TRUE(list.ItemIndex() == 1 && list.Selected(1) && !list.Selected(0) &&
+                As<TCheckListBox>(box).Checked(1));
+    EXPECT_EQ(list.Items().Get(0) + " " + std::to_string(list.Items().IndexOf("9.1")), "9.0 1");
+    EXPECT_EQ(list.ItemRect(1), (TRect{RUX_ENTRY, 1, RUX_ENTRY + 1, 2}));
+    EXPECT_EQ(list.ItemRect(2), TRect());
+    EXPECT_EQ(Raised([&] { list.Items().Get(2); }), "EStringListError: List index out of bounds (2)");
+    list.SetItemIndex(0);
+    As<TCheckListBox>(box).SetChecked(1, true);
+    EXPECT_EQ(App.Log.back(), std::to_string(box) + ":13.1=1");
+    EXPECT_EQ(Value(box, RUX_INDEX).Ordinal, 0);
+    auto& combo = As<TShellComboBox>(New("TShellComboBox"));
+    combo.SetPath("C:\\a");
+    EXPECT_EQ(combo.Path(), "C:\\a");
+    auto& items = As<TCustomListView>(view);
+    EXPECT_TRUE(items.ViewStyle() == TViewStyle::Report && items.Count() == 2 && !items.Selected());
+    EXPECT_EQ(items.ColumnCaption(1) + As<TShellListView>(view).FolderDisplayName(0), "10.111.0");
+    EXPECT_TRUE(items.RectVisible({static_cast<int>(view), 3, static_cast<int>(view) + 1, 4}) &&
+                !items.RectVisible({0, 0, 1, 1}));
+    const RUXRef item = New("TListItem", {{RUX_TEXT, {0, 0, "one"}}, {RUX_CHECKED, {1}}});
+    EXPECT_EQ(As<TListItem>(item).Caption() + As<TListItem>(item).SubItems().Get(1), "one9.1");
+    EXPECT_EQ(As<TListItem>(item).DisplayRect(TDisplayCode::Label).Top, RUX_ITEM + 2);
+    EXPECT_EQ(As<TPopupMenu>(MenuRef).Items(), Of(NodeRef));
+    const RUXRef menu = New("TMenuItem", {{RUX_ENABLED, {}}, {RUX_VISIBLE, {1}}, {RUX_INDEX, {4}}});
+    auto& entry = As<TMenuItem>(menu);
+    EXPECT_TRUE(!entry.Enabled() && entry.Visible() && entry.MenuIndex() == 4 &&
+                entry.Items(0) == Of(NodeRef));
+}
+
+TEST_F(TAttached, TreesAndPages) {
+    auto& tree = As<TCustomTreeView>(TreeRef);
+    EXPECT_TRUE(tree.Count() == 2 && tree.Item(0) == tree.GetFirstNode() && !tree.Selected());
+    tree.SetSelected(Of(NodeRef));
+    char text[] = "new";
+    TTVItem edited;
+    edited.Text = text, edited.Param = NodeRef;
+    tree.Edit(edited);
+    EXPECT_EQ(Value(NodeRef, RUX_EDITED_TEXT).Text, "new");
+    As<TRichTreeView>(TreeRef).SetNodeChecked(Of(NodeRef), true);
+    EXPECT_EQ(Value(NodeRef, RUX_CHECKED_BY_TREE).Ordinal, 1);
+    auto& node = As<TTreeNode>(NodeRef);
+    EXPECT_TRUE(node.Text() == "root" && node.Level() == 2 && node.DisplayRect(true).Top == RUX_NODE_TEXT);
+    As<TRichTreeNode>(NodeRef).SetCheckState(2);
+    EXPECT_EQ(As<TRichTreeNode>(NodeRef).CheckState(), 2);
+    auto& pages = As<TTBXPageControl>(New("TTBXPageControl", {{RUX_TAB_FLAG, {1}}, {RUX_CAN_CHANGE, {1}}}));
+    EXPECT_EQ(pages.TabFlag(), 1);
+    const RUXRef tabs = New("TPageControl", {{RUX_CAN_CHANGE, {}}, {RUX_INDEX, {1}}});
+    EXPECT_FALSE(As<TCustomTabControl>(tabs).CanChange());
+    As<TCustomTabControl>(tabs).Change();
+    EXPECT_EQ(App.Log.back(), std::to_string(tabs) + ":9");
+    EXPECT_TRUE(As<TPageControl>(tabs).ActivePage() == Of(NodeRef) &&
+                As<TPageControl>(tabs).PageCount() == 2);
+    EXPECT_TRUE(As<TTabSheet>(New("TTabSheet", {{RUX_TAB_VISIBLE, {1}}})).TabVisible());
+    EXPECT_EQ(As<TTBXStatusBar>(New("TTBXStatusBar")).PanelText(1), "9.1");
+    EXPECT_EQ(As<TTabSet>(New("TTabSet")).Tabs().Get(0), "9.0");
+    EXPECT_EQ(Raised([&] { As<TTabSet>(tabs); }), Nil);
 }
 
 TEST_F(TAttached, SetsAndInvokes) {

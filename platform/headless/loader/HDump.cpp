@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <unordered_map>
 
+#include "platform/headless/loader/HContent.h"
 #include "platform/headless/toolkit/HClasses.h"
 #include "platform/headless/toolkit/HForm.h"
 #include "platform/headless/toolkit/HMenus.h"
@@ -88,6 +89,21 @@ std::string Describe(HComponent& component, const HComponent* parent, bool lacks
     return line;
 }
 
+std::string Indent(std::size_t depth) {
+    return std::string(2 * std::min(depth, IndentLimit), ' ');
+}
+
+/// What the component holds that is no component: "- node 'text' [selected]".
+std::string DescribeContent(HComponent& component, std::size_t depth) {
+    std::string text;
+    for (const HContentLine& line : ContentOf(component)) {
+        text += Indent(depth + line.Depth) + "- " + std::string(line.Kind);
+        for (const std::string& column : line.Texts) text += " " + Quoted(column);
+        text += (line.State.empty() ? "" : " [" + line.State + "]") + "\n";
+    }
+    return text;
+}
+
 /// All components below the roots, by parent, in the order of their making.
 std::unordered_map<const HComponent*, std::vector<HComponent*>> ChildrenByParent(
     const std::vector<HComponent*>& roots) {
@@ -116,8 +132,8 @@ std::string DumpComponents(const std::vector<HComponent*>& roots,
         const TLine line = pending.back();
         pending.pop_back();
         const HComponent* parent = line.Depth == 0 ? nullptr : ParentOf(*line.Component);
-        text += std::string(2 * std::min(line.Depth, IndentLimit), ' ') +
-                Describe(*line.Component, parent, lacksAncestor(*line.Component)) + "\n";
+        text += Indent(line.Depth) + Describe(*line.Component, parent, lacksAncestor(*line.Component)) + "\n";
+        text += DescribeContent(*line.Component, line.Depth + 1);
         const auto below = children.find(line.Component);
         if (below == children.end()) continue;
         for (auto child = below->second.rbegin(); child != below->second.rend(); ++child)

@@ -309,6 +309,15 @@
     TabOrder = 11
     OnClick = btnLaterClick
   end
+  object btnCenter: TButton
+    Left = 528
+    Top = 264
+    Width = 97
+    Height = 25
+    Caption = '订单中心'
+    TabOrder = 12
+    OnClick = btnCenterClick
+  end
   object txtState: TStaticText
     Left = 8
     Top = 304

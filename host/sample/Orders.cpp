@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "host/sample/OrdersCenter.h"
 #include "host/sample/OrdersWindows.h"
 #include "platform/headless/toolkit/HButtons.h"
 #include "platform/headless/toolkit/HEdits.h"
@@ -96,6 +97,8 @@ void AttachMain(HComponent& root) {
     Define(root, "btnStockClick", [](HCustomForm& form) { ShowStock(form.Kit()); });
     Define(root, "btnExportClick", Export);
     Define(root, "btnLaterClick", ChooseLater);
+    Define(root, "btnCenterClick",
+           [](HCustomForm& form) { FormNamed(form.Kit(), "OrderCenterForm").Show(); });
     Define(root, "lblHelpClick", [](HCustomForm& form) { SetState(form, "帮助尚未编写"); });
     Define(root, "btnPinClick", [](HCustomForm& form) { SetState(form, "窗口已固定"); });
     Define(root, "edtCustomerChange", [](HCustomForm& form) { SetState(form, "客户已更改"); });
@@ -122,6 +125,7 @@ void AttachLog(HComponent& root) {
 void AttachOrdersCode(HComponent& root) {
     if (root.PlainName() == "OrdersForm") AttachMain(root);
     if (root.PlainName() == "LogForm") AttachLog(root);
+    if (root.PlainName() == "OrderCenterForm") AttachCenterCode(root);
 }
 
 }  // namespace rux

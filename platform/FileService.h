@@ -19,6 +19,11 @@ class TAppendFile {
     virtual bool Write(std::string_view bytes) = 0;
 };
 
+struct TFolderEntry {
+    std::string Name;
+    bool IsFolder = false;
+};
+
 class TFileService {
  public:
     virtual ~TFileService() = default;
@@ -39,6 +44,9 @@ class TFileService {
     virtual std::int64_t LastWriteTime(const std::string& name) = 0;
     /// nil when the file cannot be opened.
     virtual std::unique_ptr<TAppendFile> OpenAppend(const std::string& name) = 0;
+    /// What the folder holds, in no order, without the folder itself and its parent; what a link leads to
+    /// says whether it is a folder. Nothing when it cannot be read; a bounded number of entries.
+    virtual std::vector<TFolderEntry> ReadFolder(const std::string& name) = 0;
 };
 
 }  // namespace rux

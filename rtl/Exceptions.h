@@ -43,6 +43,8 @@ using EAccessViolation = TNamedException<Exception, "EAccessViolation">;
 using EAssertionFailed = TNamedException<Exception, "EAssertionFailed">;
 using EComponentError = TNamedException<Exception, "EComponentError">;
 using EConvertError = TNamedException<Exception, "EConvertError">;
+using EFCreateError = TNamedException<Exception, "EFCreateError">;
+using EFOpenError = TNamedException<Exception, "EFOpenError">;
 using EFilerError = TNamedException<Exception, "EFilerError">;
 using EInOutError = TNamedException<Exception, "EInOutError">;
 using EInvalidOp = TNamedException<Exception, "EInvalidOp">;
@@ -53,6 +55,7 @@ using EPropertyError = TNamedException<Exception, "EPropertyError">;
 using EReadError = TNamedException<Exception, "EReadError">;
 using EStackOverflow = TNamedException<Exception, "EStackOverflow">;
 using EStringListError = TNamedException<Exception, "EStringListError">;
+using ETreeViewError = TNamedException<Exception, "ETreeViewError">;
 using ETypeTransException = TNamedException<Exception, "ETypeTransException">;
 
 /// Raises EAssertionFailed with "<text> (<file>, line <n>)" when `condition` does not hold. The file is the

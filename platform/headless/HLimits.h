@@ -34,6 +34,9 @@ inline constexpr std::uint64_t HRefBase = std::uint64_t{1} << 40;
 inline constexpr std::size_t HFormAncestryLimit = 32;
 /// Objects that one load makes: frames within frames multiply.
 inline constexpr std::size_t HLoadedObjectLimit = 1u << 18;
+/// Nodes and levels of one tree in a form file; what comes behind them is left out.
+inline constexpr std::size_t HTreeNodeLimit = std::size_t{1} << 20;
+inline constexpr std::size_t HTreeDepthLimit = 1024;
 
 /// Frame and caption of the classic look at 96 dots per inch.
 inline constexpr int HSizeFrame = 4;
@@ -41,10 +44,20 @@ inline constexpr int HFixedFrame = 3;
 inline constexpr int HCaptionHeight = 19;
 inline constexpr int HToolCaptionHeight = 16;
 inline constexpr int HMenuHeight = 19;
+/// Width of the arrow at the right end of a combo box.
+inline constexpr int HComboArrow = 16;
+/// Width of what a check list box has before an item's text.
+inline constexpr int HCheckWidth = 15;
+/// Height of an item at most.
+inline constexpr int HItemHeightLimit = 255;
 /// Sunken edge of edits and lists.
 inline constexpr int HClientEdge = 2;
 /// Room that a page control leaves for its tabs above a page, and its border around it.
 inline constexpr int HTabHeight = 24;
 inline constexpr int HTabBorder = 4;
+/// Room left of the first tab, what a tab adds to its text, and how far the chosen one rises.
+inline constexpr int HTabMargin = 2;
+inline constexpr int HTabPadding = 14;
+inline constexpr int HTabRaise = 2;
 
 }  // namespace rux

@@ -1,5 +1,6 @@
 #include "platform/posix/PosixFiles.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -97,6 +98,23 @@ std::unique_ptr<TAppendFile> TPosixFiles::OpenAppend(const std::string& name) {
     struct stat facts {};
     if (!file || ::fstat(file.Get(), &facts) != 0 || !S_ISREG(facts.st_mode)) return nullptr;
     return std::make_unique<TPosixAppendFile>(std::move(file));
+}
+
+std::vector<TFolderEntry> TPosixFiles::ReadFolder(const std::string& name) {
+    std::vector<TFolderEntry> entries;
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(SystemName(name).c_str()), ::closedir);
+    while (folder && entries.size() < FolderEntryLimit) {
+        const dirent* entry = ::readdir(folder.get());
+        if (!entry) break;
+        const std::string_view own = entry->d_name;
+        if (own == "." || own == "..") continue;
+        struct stat facts {};
+        const bool known = ::fstatat(::dirfd(folder.get()), entry->d_name, &facts, 0) == 0;
+        // A name that is no UTF-8 is none that the engine could use.
+        std::string ownName = NameFromSystem(own);
+        if (!ownName.empty()) entries.push_back({std::move(ownName), known && S_ISDIR(facts.st_mode)});
+    }
+    return entries;
 }
 
 }  // namespace rux

@@ -18,6 +18,7 @@ class TPosixFiles : public TFileService {
     bool WriteFile(const std::string& name, std::string_view bytes) override;
     std::int64_t LastWriteTime(const std::string& name) override;
     std::unique_ptr<TAppendFile> OpenAppend(const std::string& name) override;
+    std::vector<TFolderEntry> ReadFolder(const std::string& name) override;
 };
 
 }  // namespace rux

@@ -20,5 +20,7 @@ inline constexpr std::size_t FileMappingLimit = std::size_t{1} << 20;
 inline constexpr int TemporaryNameAttempts = 100;
 /// Entries that cannot be deleted, after which the deletion of a folder is given up.
 inline constexpr std::size_t DeleteTreeFailureLimit = 1000;
+/// Entries of a folder that are read at most.
+inline constexpr std::size_t FolderEntryLimit = std::size_t{1} << 16;
 
 }  // namespace rux

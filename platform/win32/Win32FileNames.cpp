@@ -1,7 +1,10 @@
 #include "platform/win32/Win32FileNames.h"
 
+#include <string_view>
+
 #include "platform/win32/Headers.h"
 #include "rtl/CodePage.h"
+#include "rtl/Text.h"
 
 namespace rux {
 namespace {
@@ -63,6 +66,21 @@ bool IsRoot(const std::string& name) {
     // What cannot be told is nothing to delete.
     if (length == 0 || length >= sizeof full) return true;
     return RootLength(full) == length;
+}
+
+std::vector<TFoundEntry> EntriesOf(const std::string& folder, std::size_t limit) {
+    std::vector<TFoundEntry> entries;
+    const std::string pattern = IncludeTrailingPathDelimiter(folder) + "*";
+    WIN32_FIND_DATAA found;
+    const HANDLE search =
+        IsFileName(pattern) ? ::FindFirstFileA(pattern.c_str(), &found) : INVALID_HANDLE_VALUE;
+    if (search == INVALID_HANDLE_VALUE) return entries;
+    do {
+        const std::string_view name = found.cFileName;
+        if (name != "." && name != "..") entries.push_back({std::string(name), found.dwFileAttributes});
+    } while (entries.size() < limit && ::FindNextFileA(search, &found));
+    ::FindClose(search);
+    return entries;
 }
 
 }  // namespace rux

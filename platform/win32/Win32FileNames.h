@@ -1,8 +1,10 @@
 // Names of files as the system takes them.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace rux {
 
@@ -16,5 +18,13 @@ std::uint32_t AttributesOf(const std::string& name);
 bool IsFolder(const std::string& name);
 /// True for the root of a drive or of a share, however it is spelt.
 bool IsRoot(const std::string& name);
+
+struct TFoundEntry {
+    std::string Name;
+    std::uint32_t Attributes;
+};
+/// What a folder holds, without itself and its parent, as far as the limit. All at once: while the system
+/// searches a folder, that cannot go.
+std::vector<TFoundEntry> EntriesOf(const std::string& folder, std::size_t limit);
 
 }  // namespace rux

@@ -111,4 +111,11 @@ std::unique_ptr<TAppendFile> TWin32Files::OpenAppend(const std::string& name) {
     return file ? std::make_unique<TWin32AppendFile>(std::move(file)) : nullptr;
 }
 
+std::vector<TFolderEntry> TWin32Files::ReadFolder(const std::string& name) {
+    std::vector<TFolderEntry> entries;
+    for (TFoundEntry& found : EntriesOf(name, FolderEntryLimit))
+        entries.push_back({std::move(found.Name), (found.Attributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
+    return entries;
+}
+
 }  // namespace rux

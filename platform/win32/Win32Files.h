@@ -22,6 +22,7 @@ class TWin32Files : public TFileService {
     bool WriteFile(const std::string& name, std::string_view bytes) override;
     std::int64_t LastWriteTime(const std::string& name) override;
     std::unique_ptr<TAppendFile> OpenAppend(const std::string& name) override;
+    std::vector<TFolderEntry> ReadFolder(const std::string& name) override;
 };
 
 }  // namespace rux

@@ -1,7 +1,6 @@
 #include "platform/win32/Win32TreeDeletion.h"
 
-#include <string_view>
-#include <vector>
+#include <limits>
 
 #include "platform/shared/ServiceLimits.h"
 #include "platform/win32/Headers.h"
@@ -26,28 +25,6 @@ class TTreeDeletion {
     std::size_t FFailures = 0;
 };
 
-struct TEntry {
-    std::string Name;
-    DWORD Attributes;
-};
-
-/// All at once: while a search is open, the folder cannot go.
-std::vector<TEntry> EntriesOf(const std::string& folder) {
-    std::vector<TEntry> entries;
-    const std::string pattern = folder + "\\*";
-    WIN32_FIND_DATAA found;
-    const HANDLE search =
-        IsFileName(pattern) ? ::FindFirstFileA(pattern.c_str(), &found) : INVALID_HANDLE_VALUE;
-    if (search == INVALID_HANDLE_VALUE) return entries;
-    do {
-        const std::string_view name = found.cFileName;
-        if (name != "." && name != "..")
-            entries.push_back({folder + "\\" + found.cFileName, found.dwFileAttributes});
-    } while (::FindNextFileA(search, &found));
-    ::FindClose(search);
-    return entries;
-}
-
 bool IsLink(DWORD attributes) {
     return attributes & FILE_ATTRIBUTE_REPARSE_POINT;
 }
@@ -65,9 +42,9 @@ void TTreeDeletion::DeleteEntry(const std::string& name, DWORD attributes) {
 }
 
 void TTreeDeletion::DeleteContent(const std::string& folder) {
-    for (const TEntry& entry : EntriesOf(folder)) {
+    for (const TFoundEntry& entry : EntriesOf(folder, std::numeric_limits<std::size_t>::max())) {
         if (FFailures >= DeleteTreeFailureLimit) return;
-        DeleteEntry(entry.Name, entry.Attributes);
+        DeleteEntry(folder + "\\" + entry.Name, entry.Attributes);
     }
 }
 

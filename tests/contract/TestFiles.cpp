@@ -16,6 +16,13 @@ TEST_P(BoundaryContract, FoldersAreMadeWithTheirParents) {
     EXPECT_FALSE(Files.DirectoryExists(std::string("\\\0x", 3)));
     EXPECT_FALSE(Files.DeleteFile(deep));
     Platform->MakeReadOnly(deep + "\\" + odd);
+    std::string held;
+    for (const TFolderEntry& entry : Files.ReadFolder(deep))
+        held += entry.Name + (entry.IsFolder ? "\\" : ";");
+    for (const TFolderEntry& entry : Files.ReadFolder(top))
+        held += entry.Name + (entry.IsFolder ? "\\" : ";");
+    EXPECT_EQ(held, odd + ";" + odd + "\\");
+    EXPECT_TRUE(Files.ReadFolder(deep + "\\" + odd).empty() && Files.ReadFolder(top + "\\missing").empty());
 
     EXPECT_TRUE(Files.DeleteTree(top + "\\"));
     EXPECT_FALSE(Files.DirectoryExists(top));

@@ -5,7 +5,7 @@
 #include "Engine/TaskCenter/RUXWindowPic.h"
 #include "platform/headless/drawing/HCanvas.h"
 #include "platform/headless/toolkit/HButtons.h"
-#include "platform/headless/toolkit/HLists.h"
+#include "platform/headless/toolkit/HItems.h"
 #include "tests/support/EngineFixture.h"
 #include "tests/support/Jpeg.h"
 

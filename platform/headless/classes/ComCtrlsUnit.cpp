@@ -1,10 +1,9 @@
 // Pages and tabs, values, dates, keys.
 #include "platform/headless/classes/HClassTables.h"
-#include "platform/headless/toolkit/HContainers.h"
 #include "platform/headless/toolkit/HEdits.h"
 #include "platform/headless/toolkit/HFields.h"
 #include "platform/headless/toolkit/HLists.h"
-#include "platform/headless/toolkit/HPages.h"
+#include "platform/headless/toolkit/HPageControl.h"
 
 namespace rux {
 
@@ -20,30 +19,13 @@ HRows TabRows() {
                  {KeptEnum("Style", "TTabStyle"), KeptEnum("TabPosition", "TTabPosition")}});
 }
 
-/// A page control's TabIndex counts the pages that have a tab.
-HPropDef PageTabIndex() {
-    HPropDef row = HReadOnly<&HPageControl::ActivePageIndex>("TabIndex");
-    row.Get = [](HObject& object, TPropValue& value) {
-        const auto& control = static_cast<HPageControl&>(object);
-        const HTabSheet* active = control.ActivePage();
-        int index = -1, tabs = 0;
-        for (const HTabSheet* page : control.Pages()) {
-            if (!page->TabVisible()) continue;
-            if (page == active) index = tabs;
-            ++tabs;
-        }
-        value = HIntegerValue(index);
-    };
-    return row;
-}
-
 void RegisterPages(HClasses& classes) {
-    classes.Add("TCustomTabControl", "TWinControl");
+    classes.Add("TCustomTabControl", "TWinControl", HMake<HCustomTabControl>);
     classes.Add(
         "TPageControl", "TCustomTabControl", HMake<HPageControl>,
         Join({TabRows(),
               {HProp<&HPageControl::ActivePageObject, &HPageControl::SetActivePageObject>("ActivePage"),
-               PageTabIndex()}}));
+               HProp<&HPageControl::TabIndex, &HPageControl::SetTabIndex>("TabIndex")}}));
     classes.Add("TTabSheet", "TWinControl", HMake<HTabSheet>,
                 Join({Shown(),
                       Captioned(),
@@ -56,8 +38,8 @@ void RegisterPages(HClasses& classes) {
     classes.Add("TTabControl", "TCustomTabControl", HMake<HTabsControl>,
                 Join({TabRows(),
                       Bools({"MultiSelect"}),
-                      {HReadOnly<&HTabsControl::TabsObject>("Tabs"),
-                       HProp<&HTabsControl::TabIndex, &HTabsControl::SetTabIndex>("TabIndex")}}));
+                      {HReadOnly<&HCustomTabControl::TabsObject>("Tabs"),
+                       HProp<&HCustomTabControl::TabIndex, &HCustomTabControl::SetTabIndex>("TabIndex")}}));
 }
 
 void RegisterValues(HClasses& classes) {

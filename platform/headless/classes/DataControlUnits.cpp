@@ -1,5 +1,6 @@
 // Controls that show data: DBCtrls, DBGrids, DBCGrids. They are not bound to any; each is what its parent is.
 #include "platform/headless/classes/HClassTables.h"
+#include "platform/headless/toolkit/HCombos.h"
 #include "platform/headless/toolkit/HEdits.h"
 #include "platform/headless/toolkit/HLists.h"
 

@@ -1,8 +1,9 @@
 // Shapes, pictures, timers, labeled edits and what else the unit of additional controls has beside panels.
 #include "platform/headless/classes/HClassTables.h"
-#include "platform/headless/toolkit/HContainers.h"
 #include "platform/headless/toolkit/HFields.h"
+#include "platform/headless/toolkit/HItems.h"
 #include "platform/headless/toolkit/HPages.h"
+#include "platform/headless/toolkit/HTimer.h"
 
 namespace rux {
 

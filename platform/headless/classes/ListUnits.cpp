@@ -1,6 +1,7 @@
 // List boxes and combo boxes: StdCtrls, CheckLst, FileCtrl, the colour lists.
 #include "platform/headless/classes/HClassTables.h"
-#include "platform/headless/toolkit/HLists.h"
+#include "platform/headless/toolkit/HCombos.h"
+#include "platform/headless/toolkit/HListBoxes.h"
 
 namespace rux {
 
@@ -27,7 +28,8 @@ HRows SortedList() {
 }
 
 HRows ChoiceRows() {
-    return Join({Bools({"MultiSelect"}), Bools({"ExtendedSelect"}, true)});
+    return {HProp<&HCustomListBox::MultiSelect, &HCustomListBox::SetMultiSelect>("MultiSelect"),
+            HProp<&HCustomListBox::ExtendedSelect, &HCustomListBox::SetExtendedSelect>("ExtendedSelect")};
 }
 
 HRows ComboRows() {
@@ -50,11 +52,11 @@ void RegisterListBoxes(HClasses& classes) {
     classes.Add("TCustomListBox", "TCustomMultiSelectListControl", HMake<HCustomListBox>);
     classes.Add("TListBox", "TCustomListBox", nullptr,
                 Join({ListRows(), ItemsRow(), SortedList(), ChoiceRows(), Ints({"ScrollWidth"})}));
-    classes.Add("TCheckListBox", "TCustomListBox", nullptr,
+    classes.Add("TCheckListBox", "TCustomListBox", HMake<HCheckListBox>,
                 Join({ListRows(),
                       ItemsRow(),
                       SortedList(),
-                      Bools({"AllowGrayed"}),
+                      {HProp<&HCheckListBox::AllowGrayed, &HCheckListBox::SetAllowGrayed>("AllowGrayed")},
                       Bools({"Flat"}, true),
                       {KeptInt("HeaderColor", HSystemColor(23)),
                        KeptInt("HeaderBackgroundColor", HSystemColor(24))}}));

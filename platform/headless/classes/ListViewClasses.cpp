@@ -1,21 +1,12 @@
 // List views.
 #include "platform/headless/classes/HClassTables.h"
-#include "platform/headless/toolkit/HLists.h"
+#include "platform/headless/toolkit/HListView.h"
 
 namespace rux {
 
-namespace {
-
-/// A view with a border that the keyboard reaches.
-class HView : public HBorderedControl {
- public:
-    HView(HToolkit& kit, const HClassDef& def) : HBorderedControl(kit, def) { FTabStop = true; }
-};
-
-}  // namespace
-
 void RegisterListViewClasses(HClasses& classes) {
-    classes.Add("TListItems", "TPersistent");
+    classes.Add("TListItem", "TPersistent", HMake<HListItem>);
+    classes.Add("TListItems", "TPersistent", HMake<HListItems>, {HReadOnly<&HListItems::Count>("Count")});
     classes.Add(
         "TIconOptions", "TPersistent", nullptr,
         {KeptEnum("Arrangement", "TIconArrangement"), KeptBool("AutoArrange"), KeptBool("WrapText", true)});
@@ -24,7 +15,7 @@ void RegisterListViewClasses(HClasses& classes) {
                  KeptInt("ImageIndex", -1), KeptInt("MaxWidth"), KeptInt("MinWidth"), KeptInt("Tag"),
                  KeptInt("Width", 50)});
     classes.AddCollection("TListColumns", "TListColumn");
-    classes.Add("TCustomListView", "TCustomMultiSelectListControl", HMake<HView>);
+    classes.Add("TCustomListView", "TCustomMultiSelectListControl", HMake<HCustomListView>);
     classes.Add(
         "TListView", "TCustomListView", nullptr,
         Join({ViewRows(),
@@ -34,9 +25,10 @@ void RegisterListViewClasses(HClasses& classes) {
               Bools({"ColumnClick", "ShowColumnHeaders"}, true),
               Ints({"AllocBy"}),
               Objects({"LargeImages", "SmallImages"}),
-              {KeptPart("Columns", "TListColumns"), KeptPart("IconOptions", "TIconOptions"),
-               KeptPart("Items", "TListItems"), KeptInt("HoverTime", -1),
-               KeptSet("HotTrackStyles", "TListHotTrackStyle"), KeptEnum("ViewStyle", "TViewStyle")}}));
+              {HReadOnly<&HCustomListView::ColumnsObject>("Columns"),
+               HReadOnly<&HCustomListView::ItemsObject>("Items"), KeptPart("IconOptions", "TIconOptions"),
+               KeptInt("HoverTime", -1), KeptSet("HotTrackStyles", "TListHotTrackStyle"),
+               KeptEnum("ViewStyle", "TViewStyle")}}));
 }
 
 }  // namespace rux

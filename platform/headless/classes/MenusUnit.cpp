@@ -23,18 +23,21 @@ void RegisterMenusUnit(HClasses& classes) {
                HProp<&HMenuItem::Visible, &HMenuItem::SetVisible>("Visible"),
                HProp<&HMenuItem::Checked, &HMenuItem::SetChecked>("Checked"),
                HProp<&HMenuItem::AutoCheck, &HMenuItem::SetAutoCheck>("AutoCheck"),
+               HProp<&HMenuItem::RadioItem, &HMenuItem::SetRadioItem>("RadioItem"),
+               HProp<&HMenuItem::GroupIndex, &HMenuItem::SetGroupIndex>("GroupIndex"),
+               HProp<&HMenuItem::ShortCut, &HMenuItem::SetShortCut>("ShortCut"),
                HProp<&HMenuItem::ActionObject, &HMenuItem::SetAction>("Action")},
               {KeptEnum("AutoHotkeys", "TMenuItemAutoFlag", "maParent"),
                KeptEnum("AutoLineReduction", "TMenuItemAutoFlag", "maParent"), KeptPart("Bitmap", "TBitmap"),
                KeptEnum("Break", "TMenuBreak"), KeptText("Hint"), KeptInt("ImageIndex", -1)},
               Objects({"SubMenuImages"}),
-              Bools({"Default", "RadioItem"}),
-              Ints({"GroupIndex", "HelpContext", "ShortCut"})}));
+              Bools({"Default"}),
+              Ints({"HelpContext"})}));
     classes.Add("TMenu", "TComponent", HMake<HMenu>, {HReadOnly<&HMenu::ItemsObject>("Items")});
     classes.Add("TMainMenu", "TMenu", nullptr, Join({MenuRows(), Bools({"AutoMerge"})}));
     classes.Add("TPopupMenu", "TMenu", HMake<HPopupMenu>,
                 Join({MenuRows(),
-                      Bools({"AutoPopup"}, true),
+                      {HProp<&HPopupMenu::AutoPopup, &HPopupMenu::SetAutoPopup>("AutoPopup")},
                       Ints({"HelpContext"}),
                       {KeptEnum("Alignment", "TPopupAlignment"), KeptSet("MenuAnimation", "TMenuAnimations"),
                        KeptEnum("TrackButton", "TTrackButton")}}));

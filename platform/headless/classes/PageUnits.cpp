@@ -20,8 +20,8 @@ void RegisterTabSets(HClasses& classes) {
                       Bools({"ShrinkToFit", "SoftTop"}),
                       Ints({"EndMargin", "StartMargin"}, 5),
                       Ints({"VisibleTabs"}),
-                      {HReadOnly<&HTabsControl::TabsObject>("Tabs"),
-                       HProp<&HTabsControl::TabIndex, &HTabsControl::SetTabIndex>("TabIndex"),
+                      {HReadOnly<&HTabSet::TabsObject>("Tabs"),
+                       HProp<&HTabSet::TabIndex, &HTabSet::SetTabIndex>("TabIndex"),
                        KeptInt("BackgroundColor", HButtonColor), KeptInt("SelectedColor", HButtonColor),
                        KeptInt("UnselectedColor", HWindowColor), KeptEnum("Style", "TTabSetStyle"),
                        KeptInt("TabHeight", 20), KeptEnum("TabPosition", "TTabPosition", "tpBottom")}}));
@@ -29,7 +29,7 @@ void RegisterTabSets(HClasses& classes) {
 }
 
 void RegisterTabbedNotebook(HClasses& classes) {
-    classes.Add("TTabPage", "TWinControl", nullptr, Join({Shown(), Captioned(), Tabbed()}));
+    classes.Add("TTabPage", "TWinControl", HMake<HNotebookPage>, Join({Shown(), Captioned(), Tabbed()}));
     classes.Add("TTabbedNotebook", "TCustomTabControl", HMake<HTabbedNotebook>,
                 Join({Windowed(),
                       Aligned(),

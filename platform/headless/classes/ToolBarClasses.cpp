@@ -1,5 +1,6 @@
 // Tool bars, cool bars, status bars, scrollers of pages.
 #include "platform/headless/classes/HClassTables.h"
+#include "platform/headless/toolkit/HStatusBars.h"
 #include "platform/headless/toolkit/HToolBars.h"
 
 namespace rux {
@@ -78,14 +79,13 @@ void RegisterStatusBar(HClasses& classes) {
                  KeptEnum("BiDiMode", "TBiDiMode"), KeptBool("ParentBiDiMode", true),
                  KeptEnum("Style", "TStatusPanelStyle"), KeptText("Text"), KeptInt("Width", 50)});
     classes.AddCollection("TStatusPanels", "TStatusPanel");
-    classes.Add("TCustomStatusBar", "TWinControl", HMakeAligned<HWinControl, HAlign::alBottom>);
-    classes.Add("TStatusBar", "TCustomStatusBar", nullptr,
+    classes.Add("TCustomStatusBar", "TWinControl", HMake<HPanelledBar>);
+    classes.Add("TStatusBar", "TCustomStatusBar", HMake<HStatusBar>,
                 Join({Basic(),
                       Aligned(),
                       Acting(),
                       Lettered(),
                       Coloured(HButtonColor),
-
                       Bools({"AutoHint", "ParentFont", "SimplePanel"}),
                       Bools({"SizeGrip", "UseSystemFont"}, true),
                       Texts({"SimpleText"}),

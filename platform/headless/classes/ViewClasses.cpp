@@ -1,7 +1,7 @@
 // Headers, rich edits, combo boxes with pictures.
 #include "platform/headless/classes/HClassTables.h"
+#include "platform/headless/toolkit/HCombos.h"
 #include "platform/headless/toolkit/HEdits.h"
-#include "platform/headless/toolkit/HLists.h"
 
 namespace rux {
 
@@ -37,7 +37,7 @@ void RegisterComboBoxEx(HClasses& classes) {
     classes.Add("TComboExItem", "TListControlItem", nullptr,
                 {KeptInt("Indent", -1), KeptInt("OverlayImageIndex", -1), KeptInt("SelectedImageIndex", -1)});
     classes.AddCollection("TComboExItems", "TComboExItem");
-    classes.Add("TCustomComboBoxEx", "TCustomCombo", HMake<HInputControl>);
+    classes.Add("TCustomComboBoxEx", "TCustomCombo", HMake<HCustomComboBoxEx>);
     classes.Add("TComboBoxEx", "TCustomComboBoxEx", nullptr,
                 Join({Windowed(),
                       Acting(),
@@ -48,8 +48,10 @@ void RegisterComboBoxEx(HClasses& classes) {
                       Objects({"Images"}),
                       Ints({"MaxLength"}),
                       {KeptSet("AutoCompleteOptions", "TAutoCompleteOption", "acoAutoAppend"),
-                       KeptInt("DropDownCount", 8), KeptInt("ItemHeight", 16), KeptInt("ItemIndex", -1),
-                       KeptPart("ItemsEx", "TComboExItems"), KeptEnum("Style", "TComboBoxExStyle"),
+                       KeptInt("DropDownCount", 8), KeptInt("ItemHeight", 16),
+                       HProp<&HItemsControl::ItemIndex, &HItemsControl::SetItemIndex>("ItemIndex"),
+                       KeptPart("ItemsEx", "TComboExItems"),
+                       HProp<&HCustomComboBoxEx::StyleEx, &HCustomComboBoxEx::SetStyleEx>("Style"),
                        KeptSet("StyleEx", "TComboBoxExStyleEx")}}));
 }
 

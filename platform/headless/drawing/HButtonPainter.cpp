@@ -7,9 +7,21 @@
 
 namespace rux {
 
+void PaintCheckMark(HCanvas& canvas, const TRect& box, HCheckBoxState state, bool enabled) {
+    const bool plain = enabled && state != HCheckBoxState::cbGrayed;
+    canvas.Fill(box, plain ? clWindow : clBtnFace);
+    canvas.Edge(box, HEdge::Sunken);
+    if (state == HCheckBoxState::cbUnchecked) return;
+    // Down for three pixels, up for five; three pixels thick.
+    static constexpr int Tick[] = {5, 6, 7, 6, 5, 4, 3};
+    for (int i = 0; i < 7; ++i)
+        canvas.Fill({box.Left + 3 + i, box.Top + Tick[i], box.Left + 4 + i, box.Top + Tick[i] + 3},
+                    plain ? clWindowText : clGrayText);
+}
+
 namespace {
 
-constexpr int MarkSize = 13, IconSize = 16, Gap = 4;
+constexpr int MarkSize = HMarkSize, IconSize = 16, Gap = 4;
 
 void PaintButton(HControl& control, HCanvas& canvas, const TRect& room) {
     canvas.Fill(room, clBtnFace);
@@ -75,15 +87,7 @@ void PaintCheckBox(HControl& control, HCanvas& canvas, const TRect& room) {
     const TRect box = PaintMarkedCaption(control, canvas, room);
     const auto* check = dynamic_cast<const HCustomCheckBox*>(&control);
     const HCheckBoxState state = check ? check->State() : HCheckBoxState::cbUnchecked;
-    const bool plain = control.IsEnabled() && state != HCheckBoxState::cbGrayed;
-    canvas.Fill(box, plain ? clWindow : clBtnFace);
-    canvas.Edge(box, HEdge::Sunken);
-    if (state == HCheckBoxState::cbUnchecked) return;
-    // Down for three pixels, up for five; three pixels thick.
-    static constexpr int Tick[] = {5, 6, 7, 6, 5, 4, 3};
-    for (int i = 0; i < 7; ++i)
-        canvas.Fill({box.Left + 3 + i, box.Top + Tick[i], box.Left + 4 + i, box.Top + Tick[i] + 3},
-                    plain ? clWindowText : clGrayText);
+    PaintCheckMark(canvas, box, state, control.IsEnabled());
 }
 
 void PaintRadioButton(HControl& control, HCanvas& canvas, const TRect& room) {

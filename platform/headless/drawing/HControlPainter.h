@@ -10,6 +10,8 @@
 
 namespace rux {
 
+enum class HCheckBoxState;
+
 /// Draws the client area of a control, by the class it is of, and the graphic controls on it.
 void PaintControl(HWinControl& control, HCanvas& canvas, const HWindow& window);
 
@@ -46,6 +48,11 @@ std::string LookCaption(const HControl& control);
 /// Buttons with texts next to each other, as wide as the collection's items say.
 void PaintSections(const HObject* part, std::string_view text, HCanvas& canvas, const TRect& bar, TColor ink,
                    HEdge edge);
+
+/// The square of a check box, with its tick unless it is unchecked.
+void PaintCheckMark(HCanvas& canvas, const TRect& box, HCheckBoxState state, bool enabled);
+/// Side of that square.
+inline constexpr int HMarkSize = 13;
 
 void PaintImage(HCanvas& canvas, const TRect& place);
 

@@ -62,7 +62,7 @@ void PaintMenuBar(HCanvas& canvas, const TRect& bar, const HWindow& window) {
     auto* menu = form ? dynamic_cast<HMenu*>(form->Menu()) : nullptr;
     if (!menu) return;
     int left = bar.Left;
-    for (const HMenuItem* item : menu->Root().Items()) {
+    for (HMenuItem* item : menu->Root().ItemList()) {
         if (!item->Visible()) continue;
         if (left >= bar.Right) return;
         const std::string caption = WithoutAccelerator(item->Caption());

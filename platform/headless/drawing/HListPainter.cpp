@@ -4,26 +4,37 @@
 #include "platform/headless/HLimits.h"
 #include "platform/headless/drawing/HControlPainter.h"
 #include "platform/headless/drawing/HFramePainter.h"
-#include "platform/headless/toolkit/HLists.h"
+#include "platform/headless/toolkit/HListBoxes.h"
 
 namespace rux {
 
 namespace {
 
-constexpr int Row = HCanvas::LineHeight, ArrowWidth = 16;
+constexpr int Row = HCanvas::LineHeight;
+
+void PaintItem(HCustomListBox& list, HCanvas& canvas, int index, TRect place) {
+    auto* checks = dynamic_cast<HCheckListBox*>(&list);
+    if (checks) {
+        const int top = (place.Top + place.Bottom - HMarkSize) / 2;
+        PaintCheckMark(canvas, {place.Left + 1, top, place.Left + 1 + HMarkSize, top + HMarkSize},
+                       checks->State(index), list.IsEnabled());
+        place.Left += HCheckWidth;
+    }
+    const bool chosen = list.Selected(index);
+    if (chosen) canvas.Fill(place, clHighlight);
+    canvas.Text({place.Left + 2, place.Top, place.Right, place.Bottom}, list.Items().Get(index),
+                chosen ? clHighlightText : LookInk(list));
+    if (index == list.ItemIndex() && list.Focused()) canvas.Frame(place, clGrayText);
+}
 
 void PaintListBox(HControl& control, HCanvas& canvas, const TRect& room) {
     canvas.Fill(room, LookColor(control, clWindow));
-    const auto* list = dynamic_cast<const HItemsControl*>(&control);
+    auto* list = dynamic_cast<HCustomListBox*>(&control);
     if (!list) return;
-    const std::vector<std::string> lines = list->Items().Lines();
-    const TColor ink = LookInk(control);
-    for (int i = 0; i < static_cast<int>(lines.size()) && i * Row < room.Bottom; ++i) {
-        const TRect line{0, i * Row, room.Right, (i + 1) * Row};
-        const bool chosen = i == list->ItemIndex();
-        if (chosen) canvas.Fill(line, clHighlight);
-        canvas.Text({2, line.Top, line.Right, line.Bottom}, lines[static_cast<std::size_t>(i)],
-                    chosen ? clHighlightText : ink);
+    for (int i = list->TopIndex(); i < list->Items().Count(); ++i) {
+        const TRect place = list->ItemRect(i);
+        if (place.Top >= room.Bottom || place.Left >= room.Right) return;
+        PaintItem(*list, canvas, i, place);
     }
 }
 
@@ -31,10 +42,9 @@ void PaintComboBox(HControl& control, HCanvas& canvas, const TRect& room) {
     canvas.Fill(room, LookColor(control, clWindow));
     canvas.Edge(room, HEdge::Sunken);
     const int edge = HClientEdge;
-    canvas.Text({edge + 2, 0, room.Right - edge - ArrowWidth, room.Bottom}, control.TextRef(),
-                LookInk(control));
-    PaintArrowButton(canvas, {room.Right - edge - ArrowWidth, edge, room.Right - edge, room.Bottom - edge},
-                     HArrow::Down);
+    const int arrow = room.Right - edge - HComboArrow;
+    canvas.Text({edge + 2, 0, arrow, room.Bottom}, control.TextRef(), LookInk(control));
+    PaintArrowButton(canvas, {arrow, edge, room.Right - edge, room.Bottom - edge}, HArrow::Down);
 }
 
 }  // namespace

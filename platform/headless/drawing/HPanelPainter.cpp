@@ -5,14 +5,14 @@
 #include "platform/headless/HLimits.h"
 #include "platform/headless/drawing/HControlPainter.h"
 #include "platform/headless/drawing/HFramePainter.h"
-#include "platform/headless/toolkit/HContainers.h"
+#include "platform/headless/toolkit/HFlatPages.h"
 #include "platform/headless/toolkit/HPages.h"
 
 namespace rux {
 
 namespace {
 
-constexpr int TextHeight = 12, TabPadding = 14;
+constexpr int TextHeight = 12;
 
 void PaintGround(HControl& control, HCanvas& canvas, const TRect& room) {
     canvas.Fill(room, LookGround(control));
@@ -42,60 +42,43 @@ void PaintGroupBox(HControl& control, HCanvas& canvas, const TRect& room) {
     canvas.Text({text.Left + 2, 0, text.Right, text.Bottom}, caption, LookInk(control));
 }
 
-/// A row of tabs over a page; `place` is the row's.
-void PaintTabs(HCanvas& canvas, const TRect& place, const std::vector<std::string>& captions, int chosen,
-               TColor ink) {
-    int left = place.Left + 2;
-    for (std::size_t i = 0; i < captions.size() && left < place.Right; ++i) {
-        const int right = left + HCanvas::TextWidth(captions[i]) + TabPadding;
-        const bool front = static_cast<int>(i) == chosen;
-        const TRect tab{front ? left - 2 : left, place.Top + (front ? 0 : 2), front ? right + 2 : right,
-                        place.Bottom};
+/// The tabs of a row, the chosen one raised; `place` is the row's.
+void PaintTabs(HCanvas& canvas, const TRect& place, const HTabRow& row, int chosen, TColor ink) {
+    for (int i = 0; i < row.Count() && row.Rect(i).Left < place.Right; ++i) {
+        const TRect rect = row.Rect(i);
+        const bool front = i == chosen;
+        const int raise = front ? HTabRaise : 0;
+        const TRect tab{rect.Left - raise, rect.Top - raise, rect.Right + raise, place.Bottom};
         canvas.Clipped(place).Fill(tab, clBtnFace);
         // Its foot lies below the row, so that the tab and the page are one.
-        canvas.Clipped({place.Left, place.Top, place.Right, place.Bottom + (front ? 0 : -2)})
+        canvas.Clipped({place.Left, place.Top, place.Right, place.Bottom + (front ? 0 : -HTabRaise)})
             .Edge({tab.Left, tab.Top, tab.Right, tab.Bottom + 4}, HEdge::Raised);
-        canvas.Text({left, place.Top + 1, right, place.Bottom}, captions[i], ink, HTextAlign::Center);
-        left = right;
+        canvas.Text({rect.Left, place.Top + 1, rect.Right, place.Bottom}, row.Caption(i), ink,
+                    HTextAlign::Center);
     }
 }
 
 /// The page's edge, then the tabs over it.
-void PaintTabbed(HControl& control, HCanvas& canvas, const TRect& room,
-                 const std::vector<std::string>& captions, int chosen) {
+void PaintTabbed(HControl& control, HCanvas& canvas, const TRect& room) {
     canvas.Fill(room, LookGround(control));
-    if (captions.empty()) return;
-    const int top = HTabHeight - 4;
+    auto* tabs = dynamic_cast<HCustomTabControl*>(&control);
+    const auto* hidden = dynamic_cast<HPageControl*>(&control);
+    if (!tabs || tabs->Row().Count() == 0 || (hidden && !hidden->HasTabs())) return;
+    const int top = HTabHeight - HTabBorder;
     canvas.Edge({0, top, room.Right, room.Bottom}, HEdge::Raised);
-    PaintTabs(canvas, {0, 0, room.Right, top + 2}, captions, chosen, LookInk(control));
-}
-
-void PaintPageControl(HControl& control, HCanvas& canvas, const TRect& room) {
-    const auto* pages = dynamic_cast<const HPageControl*>(&control);
-    std::vector<std::string> captions;
-    int chosen = -1;
-    for (const HTabSheet* page : pages ? pages->Pages() : std::vector<HTabSheet*>()) {
-        if (!page->TabVisible()) continue;
-        if (page == pages->ActivePage()) chosen = static_cast<int>(captions.size());
-        captions.push_back(LookCaption(*page));
-    }
-    PaintTabbed(control, canvas, room, captions, chosen);
-}
-
-void PaintTabControl(HControl& control, HCanvas& canvas, const TRect& room) {
-    if (const auto* tabs = dynamic_cast<const HTabsControl*>(&control))
-        PaintTabbed(control, canvas, room, tabs->Tabs().Lines(), tabs->TabIndex());
-    else if (const auto* book = dynamic_cast<const HNotebook*>(&control)) {
-        std::vector<std::string> captions;
-        for (const HWinControl* page : book->WindowedControls()) captions.push_back(LookCaption(*page));
-        PaintTabbed(control, canvas, room, captions, book->PageIndex());
-    }
+    PaintTabs(canvas, {0, 0, room.Right, top + HTabRaise}, tabs->Row(), tabs->TabIndex(), LookInk(control));
 }
 
 void PaintTabSet(HControl& control, HCanvas& canvas, const TRect& room) {
-    const auto* tabs = dynamic_cast<const HTabsControl*>(&control);
     canvas.Fill(room, clBtnFace);
-    if (tabs) PaintTabs(canvas, room, tabs->Tabs().Lines(), tabs->TabIndex(), LookInk(control));
+    if (auto* tabs = dynamic_cast<HTabSet*>(&control))
+        PaintTabs(canvas, room, tabs->Row(), tabs->TabIndex(), LookInk(control));
+    if (auto* tabs = dynamic_cast<HTBXImageTabSet*>(&control))
+        PaintTabs(canvas, room, tabs->Row(), tabs->TabIndex(), LookInk(control));
+}
+
+void PaintPanels(HControl& control, HCanvas& canvas, const TRect& room) {
+    PaintSections(LookPart(control, "Panels"), "Caption", canvas, room, clWindowText, HEdge::Sunken);
 }
 
 void PaintBevel(HControl& control, HCanvas& canvas, const TRect& room) {
@@ -183,6 +166,7 @@ std::span<const HPainter> PanelPainters() {
         {"TControl", PaintUnknown},
         {"TScrollingWinControl", PaintGround},
         {"TTabSheet", PaintGround},
+        {"TFlatTabSheet", PaintGround},
         {"TPage", PaintGround},
         {"TTabPage", PaintGround},
         {"TNotebook", PaintGround},
@@ -191,9 +175,11 @@ std::span<const HPainter> PanelPainters() {
         {"TPageScroller", PaintGround},
         {"TCustomPanel", PaintPanel},
         {"TCustomGroupBox", PaintGroupBox},
-        {"TPageControl", PaintPageControl},
-        {"TCustomTabControl", PaintTabControl},
+        {"TCustomTabControl", PaintTabbed},
+        {"TFlatPageControl", PaintTabbed},
         {"TTabSet", PaintTabSet},
+        {"TTBXImageTabSet", PaintTabSet},
+        {"TTBXStatusBar", PaintPanels},
         {"TBevel", PaintBevel},
         {"TShape", PaintShape},
         {"TImage", PaintPicture},

@@ -31,7 +31,7 @@ bool HApplication::Terminated() {
 // ------------------------------------------------------------------------------------------------ the loop
 
 bool HApplication::UsedAsDialogKey(const TMessage& message) {
-    if (message.Number != WM_KEYDOWN) return false;
+    if (message.Number != WM_KEYDOWN && message.Number != WM_SYSKEYDOWN) return false;
     // A native window's keys are its nearest control's.
     HWinControl* control = nullptr;
     for (const HWindow* w = Kit().Desktop().Find(message.Window); w && !control; w = w->Parent)

@@ -249,7 +249,8 @@ bool HControl::AnswerContextMenu(TPoint screen) {
     HEventArgs args{.Point = point};
     if (Fire(Kit().Names().OnContextPopup, args) && !args.Allow) return true;
     auto* menu = Dead() ? nullptr : dynamic_cast<HPopupMenu*>(FPopupMenu.Get());
-    if (menu) menu->Popup();
+    if (menu && !menu->AutoPopup()) menu = nullptr;
+    if (menu) menu->Popup(this);
     return menu || Dead();
 }
 

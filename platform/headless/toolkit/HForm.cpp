@@ -454,9 +454,39 @@ HWinControl* HCustomForm::NextTabControl(const HWinControl* from, bool backwards
     return next == order.end() ? nullptr : next->Control;
 }
 
+namespace {
+
+/// A menu item's shortcut for a key with the modifiers that are down.
+int ShortCutOf(unsigned key, const HDesktop& desktop) {
+    const auto bit = [&](unsigned modifier, int value) { return desktop.KeyIsDown(modifier) ? value : 0; };
+    return static_cast<int>(key) | bit(VK_SHIFT, 0x2000) | bit(VK_CONTROL, 0x4000) | bit(VK_MENU, 0x8000);
+}
+
+}  // namespace
+
+bool HCustomForm::MenuKey(int shortCut, HWinControl& focused) {
+    // The pop-up menus from the focused control outwards, then the form's own menu, then the main form's.
+    std::vector<HMenu*> menus;
+    for (HWinControl* step = &focused; step; step = step->ParentControl())
+        menus.push_back(dynamic_cast<HMenu*>(step->PopupMenuObject()));
+    menus.push_back(dynamic_cast<HMenu*>(FMenu.Get()));
+    HCustomForm* main = Kit().App().MainFormObject();
+    if (main && main != this && Kit().Desktop().IsWindowEnabled(main->Window()))
+        menus.push_back(dynamic_cast<HMenu*>(main->FMenu.Get()));
+    std::unordered_set<HMenu*> asked{nullptr};
+    for (HMenu* menu : menus) {
+        HMenuItem* item = asked.insert(menu).second ? menu->Root().FindShortCut(shortCut) : nullptr;
+        if (!item) continue;
+        item->ClickByKey();
+        return true;
+    }
+    return false;
+}
+
 bool HCustomForm::DialogKey(unsigned key, HWinControl& focused) {
     const HDesktop& desktop = Kit().Desktop();
-    if (focused.WantsKey(key) || desktop.KeyIsDown(VK_CONTROL)) return false;
+    if (key != 0 && MenuKey(ShortCutOf(key, desktop), focused)) return true;
+    if (focused.WantsKey(key) || desktop.KeyIsDown(VK_CONTROL) || desktop.KeyIsDown(VK_MENU)) return false;
     if (key == VK_TAB) {
         HWinControl* next = NextTabControl(FActiveControl.Get(), desktop.KeyIsDown(VK_SHIFT));
         if (next) next->SetFocus();
@@ -546,7 +576,7 @@ void HCustomForm::UpdateActions() {
     if (!IsVisible()) return;
     const HDesktop::THandling handling(Kit().Desktop());
     if (auto* menu = dynamic_cast<HMenu*>(FMenu.Get())) {
-        const std::vector<HMenuItem*> items = menu->Root().Items();
+        const std::vector<HMenuItem*> items = menu->Root().ItemList();
         for (HMenuItem* item : items)
             if (!item->Dead() && item->Visible() && item->Action()) item->Action()->Update();
     }

@@ -100,7 +100,8 @@ class HCustomForm : public With<HWinControl, TCustomForm> {
     bool SetFocusedControl(HWinControl& control);
     /// Takes the focus away from a control and everything on it.
     void Defocus(const HWinControl& control, bool removing);
-    /// Keys that a dialog treats itself: Enter, Escape, Tab. True when the key was used.
+    /// Shortcuts of menu items, then the keys that a dialog treats itself: Enter, Escape, Tab. True when the
+    /// key was used.
     bool DialogKey(unsigned key, HWinControl& focused);
 
     void HandleMessage(HMessage& message) override;
@@ -125,6 +126,7 @@ class HCustomForm : public With<HWinControl, TCustomForm> {
     HCustomForm* ActiveMDIChild();
     void FocusWindow();
     bool PassFocusOn();
+    bool MenuKey(int shortCut, HWinControl& focused);
     bool CloseQuery();
     int CloseActionOf();
     void CloseModal();

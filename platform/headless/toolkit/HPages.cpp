@@ -1,47 +1,81 @@
 #include "platform/headless/toolkit/HPages.h"
 
+#include "platform/headless/HLimits.h"
+#include "platform/headless/toolkit/HClasses.h"
 #include "platform/headless/toolkit/HToolkit.h"
 
 namespace rux {
 
-// ------------------------------------------------------------------------------------------ tabs
+// ------------------------------------------------------------------------------------------ tab sets
 
-HTabsControl::HTabsControl(HToolkit& kit, const HClassDef& def, std::string_view stringsClass)
-    : HWinControl(kit, def) {
-    FTabStop = true;
+HTabSet::HTabSet(HToolkit& kit, const HClassDef& def) : With(kit, def) {
     FClickEvents = false;
-    auto tabs = std::make_unique<HStrings>(kit, *kit.ClassDefs().FindDef(stringsClass));
+    auto tabs = std::make_unique<HStrings>(kit, *kit.ClassDefs().FindDef("TTabList"));
     tabs->SetOnChange([this] { TabsChanged(); });
     FTabs = tabs.get();
     Adopt(std::move(tabs));
 }
 
-void HTabsControl::SetTabIndex(int value) {
-    const bool known = value >= 0 && value < static_cast<int>(FTabs->Count());
-    if (known || Loading()) FTabIndex = value;
+void HTabSet::SetTabIndex(int value) {
+    if (Loading()) {
+        FTabIndex = value;
+        return;
+    }
+    if (value == FTabIndex) return;
+    if (value < -1 || value >= FTabs->Count()) throw EListError("Tab index out of bounds");
+    HEventArgs args{.Value = value, .Point = {}};
+    Fire(Kit().Names().OnChange, args);
+    // What was asked may have taken tabs away.
+    if (!args.Allow || Dead() || value >= FTabs->Count()) return;
+    FTabIndex = value;
+    Click();
 }
 
-void HTabsControl::TabsChanged() {
+void HTabSet::TabsChanged() {
+    FRow.MarkStale();
     if (Loading()) return;
-    const int count = static_cast<int>(FTabs->Count());
+    const int count = FTabs->Count();
     if (FTabIndex < 0 || FTabIndex >= count) FTabIndex = count > 0 ? 0 : -1;
 }
 
-void HTabsControl::Loaded() {
+void HTabSet::Loaded() {
     HWinControl::Loaded();
     TabsChanged();
 }
 
-HTabSet::HTabSet(HToolkit& kit, const HClassDef& def) : HTabsControl(kit, def, "TTabList") {
-    FTabStop = false;
+void HTabSet::SetBounds(const TRect& bounds) {
+    HWinControl::SetBounds(bounds);
+    FRow.MarkStale();
+}
+
+const HTabRow& HTabSet::Row() {
+    if (FRow.Stale()) FRow.Arrange(FTabs->Lines(), HTabRaise, Height());
+    return FRow;
+}
+
+void HTabSet::MouseDown(HMouseButton button, TPoint point) {
+    HWinControl::MouseDown(button, point);
+    if (Dead() || button != HMouseButton::Left) return;
+    if (const int index = Row().At(point); index >= 0) SetTabIndex(index);
+}
+
+std::vector<HContentLine> HTabSet::Content() {
+    return TabLines(FTabs->Lines(), FTabIndex);
 }
 
 // ------------------------------------------------------------------------------------------ notebooks
+
+HNotebook::HNotebook(HToolkit& kit, const HClassDef& def) : HCustomTabControl(kit, def) {
+    FTabStop = false;
+    FClickEvents = true;
+    FCaptureMouse = true;
+}
 
 void HNotebook::SetPageIndex(int value) {
     const bool known = value >= 0 && static_cast<std::size_t>(value) < WindowedControls().size();
     if (!known && !Loading()) return;
     FPageIndex = value;
+    MarkTabsStale();
     if (!Loading()) Arrange();
 }
 
@@ -50,17 +84,22 @@ std::string HNotebook::ActivePage() const {
     return index < WindowedControls().size() ? WindowedControls()[index]->TextRef() : std::string();
 }
 
-std::string HNotebook::Captions() const {
-    std::string text;
-    for (const HWinControl* page : WindowedControls()) text += page->TextRef() + "\r\n";
-    return text;
+std::vector<std::string> HNotebook::Captions() const {
+    std::vector<std::string> captions;
+    for (const HWinControl* page : WindowedControls()) captions.push_back(page->TextRef());
+    return captions;
 }
 
 HObject* HNotebook::Pages() {
     if (FPages) return FPages;
     auto pages = std::make_unique<HTextLines>(Kit(), *Kit().ClassDefs().FindDef("TPageAccess"));
     // Pages come from the form file; their list only shows them.
-    pages->Attach([this] { return Captions(); }, [](const std::string&) {});
+    const auto text = [this] {
+        std::string all;
+        for (const std::string& caption : Captions()) all += caption + "\r\n";
+        return all;
+    };
+    pages->Attach(text, [](const std::string&) {});
     FPages = pages.get();
     Adopt(std::move(pages));
     return FPages;
@@ -74,6 +113,7 @@ void HNotebook::SetBounds(const TRect& bounds) {
 void HNotebook::Loaded() {
     HWinControl::Loaded();
     if (static_cast<std::size_t>(FPageIndex) >= WindowedControls().size()) FPageIndex = 0;
+    MarkTabsStale();
     Arrange();
 }
 
@@ -86,12 +126,44 @@ void HNotebook::Arrange() {
     }
 }
 
-HTabbedNotebook::HTabbedNotebook(HToolkit& kit, const HClassDef& def) : HNotebook(kit, def) {
-    FTabStop = true;
+std::vector<HContentLine> HNotebook::Content() {
+    return TabLines(Captions(), FPageIndex);
 }
 
-TRect HTabbedNotebook::PageRoom() const {
-    return RoomBelowTabs(*this);
+HTabbedNotebook::HTabbedNotebook(HToolkit& kit, const HClassDef& def) : HNotebook(kit, def) {
+    FTabStop = true;
+    FClickEvents = false;
+    FCaptureMouse = false;
+}
+
+int HTabbedNotebook::TabIndex() {
+    Row();  // brings the index up to date
+    return FTabIndex;
+}
+
+void HTabbedNotebook::Change() {
+    if (const int index = TabIndex(); index >= 0) SetPageIndex(index);
+    if (!Dead()) HNotebook::Change();
+}
+
+void HTabbedNotebook::CollectTabs(HStrings& texts) {
+    texts.SetLines(Captions());
+    FTabIndex = PageIndex() < texts.Count() ? PageIndex() : -1;
+}
+
+void HNotebookPage::SetText(const std::string& text) {
+    HWinControl::SetText(text);
+    MarkTabsStale();
+}
+
+void HNotebookPage::SetParent(HWinControl* parent) {
+    MarkTabsStale();
+    HWinControl::SetParent(parent);
+    MarkTabsStale();
+}
+
+void HNotebookPage::MarkTabsStale() {
+    if (auto* notebook = dynamic_cast<HNotebook*>(ParentControl())) notebook->MarkTabsStale();
 }
 
 }  // namespace rux

@@ -1,36 +1,44 @@
-// Pages and tabs beyond the page control: tab controls, tab sets, notebooks.
+// Tab sets, and notebooks, which show one of their pages.
 #pragma once
 
-#include "platform/headless/toolkit/HContainers.h"
+#include "platform/headless/toolkit/HTabControls.h"
 
 namespace rux {
 
-/// A row of tabs without pages of its own.
-class HTabsControl : public HWinControl {
+/// Tabs at the edge of something else, which the control draws by itself. One of them is chosen with
+/// OnChange, which may refuse, and OnClick, by code and by the user alike.
+class HTabSet : public With<HWinControl, TTabSet> {
  public:
-    HTabsControl(HToolkit& kit, const HClassDef& def, std::string_view stringsClass = "TTabStrings");
+    HTabSet(HToolkit& kit, const HClassDef& def);
+
+    // TTabSet
+    TStrings& Tabs() override { return *FTabs; }
+    int TabIndex() override { return FTabIndex; }
+    /// Raises EListError for an index outside. While a form file is read nothing fires.
+    void SetTabIndex(int value) override;
+    TRect ItemRect(int index) override { return Row().Rect(index); }
+
     HObject* TabsObject() const { return FTabs; }
-    HStrings& Tabs() const { return *FTabs; }
-    /// -1 without tabs; else one of them is always chosen.
-    int TabIndex() const { return FTabIndex; }
-    void SetTabIndex(int value);
+    const HTabRow& Row();
+    void SetBounds(const TRect& bounds) override;
     void Loaded() override;
+    std::vector<HContentLine> Content() override;
+
+ protected:
+    void MouseDown(HMouseButton button, TPoint point) override;
 
  private:
     void TabsChanged();
     HStrings* FTabs;
+    HTabRow FRow;
     int FTabIndex = -1;
 };
 
-class HTabSet : public HTabsControl {
+/// Shows one of its pages at a time; all pages fill the room that it leaves. Pages are what stands on it, and
+/// one without tabs is a tab control whose row is empty.
+class HNotebook : public HCustomTabControl {
  public:
-    HTabSet(HToolkit& kit, const HClassDef& def);
-};
-
-/// Shows one of its pages at a time; all pages fill the room that it leaves.
-class HNotebook : public HWinControl {
- public:
-    using HWinControl::HWinControl;
+    HNotebook(HToolkit& kit, const HClassDef& def);
     int PageIndex() const { return FPageIndex; }
     void SetPageIndex(int value);
     /// Caption of the page that is shown; empty without one.
@@ -39,12 +47,13 @@ class HNotebook : public HWinControl {
     HObject* Pages();
     void SetBounds(const TRect& bounds) override;
     void Loaded() override;
+    std::vector<HContentLine> Content() override;
 
  protected:
     virtual TRect PageRoom() const { return {0, 0, Width(), Height()}; }
+    std::vector<std::string> Captions() const;
 
  private:
-    std::string Captions() const;
     void Arrange();
     int FPageIndex = 0;
     HTextLines* FPages = nullptr;
@@ -54,9 +63,23 @@ class HNotebook : public HWinControl {
 class HTabbedNotebook : public HNotebook {
  public:
     HTabbedNotebook(HToolkit& kit, const HClassDef& def);
+    int TabIndex() override;
+    void Change() override;
 
  protected:
-    TRect PageRoom() const override;
+    TRect PageRoom() const override { return RoomBelowTabs(*this); }
+    void CollectTabs(HStrings& texts) override;
+};
+
+/// A page of a notebook: its caption stands on the tab.
+class HNotebookPage : public HWinControl {
+ public:
+    using HWinControl::HWinControl;
+    void SetText(const std::string& text) override;
+    void SetParent(HWinControl* parent) override;
+
+ private:
+    void MarkTabsStale();
 };
 
 }  // namespace rux

@@ -28,6 +28,7 @@ class TNoFiles final : public TFileService {
     bool WriteFile(const std::string&, std::string_view) override { return true; }
     std::int64_t LastWriteTime(const std::string&) override { return 0; }
     std::unique_ptr<TAppendFile> OpenAppend(const std::string&) override { return nullptr; }
+    std::vector<TFolderEntry> ReadFolder(const std::string&) override { return {}; }
 };
 
 struct TFuzzEngine {

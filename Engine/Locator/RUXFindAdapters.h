@@ -46,8 +46,9 @@ class TRUXFindAdapter : public TInterfacedObject<IFindAdapter, int> {
     bool IsVisible() override { return false; }
     bool IsEnabled() override { return true; }
     TObject* GetObject() final { return FInstance; }
-    /// Walks without recursion: the application may nest its controls deeper than the stack allows.
-    int FindChildren(ICommonLocator& list) final;
+    /// Walks without recursion: the application may nest its controls deeper than the stack allows. What an
+    /// override does beyond that, a walk that comes from above does not see.
+    int FindChildren(ICommonLocator& list) override;
     std::string GetPropValue(std::string_view name) final;
 
     /// How a text names the content, when there is one and no caption.

@@ -1,7 +1,12 @@
 #include "Engine/Locator/RUXFinderRegistration.h"
 
 #include "Engine/Locator/RUXFormFindAdapters.h"
+#include "Engine/Locator/RUXListFindAdapters.h"
+#include "Engine/Locator/RUXMenuFindAdapters.h"
 #include "Engine/Locator/RUXNotVCLFindAdapter.h"
+#include "Engine/Locator/RUXPageFindAdapters.h"
+#include "Engine/Locator/RUXTabFindAdapters.h"
+#include "Engine/Locator/RUXTreeFindAdapters.h"
 #include "Engine/Registry/RUXTypeRegistry.h"
 
 namespace rux {
@@ -28,6 +33,23 @@ void RegisterParserFinders(TTypeRegistry& registry) {
 
 void RegisterFinders(TTypeRegistry& registry) {
     Add<TFormFindAdapter>(registry, "TFormFindAdapter", "TCustomForm");
+    Add<TTreeViewFindAdapter>(registry, "TTreeViewFindAdapter", "TCustomTreeView");
+    Add<TFlatPageControlFindAdapter>(registry, "TFlatPageControlFindAdapter", "TFlatPageControl");
+    Add<TPageControlFindAdapter>(registry, "TPageControlFindAdapter", "TPageControl");
+    Add<TTabSheetFindAdapter>(registry, "TTabSheetFindAdapter", "TTabSheet");
+    Add<TFlatTabSheetFindAdapter>(registry, "TFlatTabSheetFindAdapter", "TFlatTabSheet");
+    Add<TTabControlFindAdapter>(registry, "TTabControlFindAdapter", "TCustomTabControl");
+    Add<TTabSetFindAdapter>(registry, "TTabSetFindAdapter", "TTabSet");
+    // The virtual tabs differ in themselves, not in how they are found.
+    Add<TVirtualTabFindAdapter>(registry, "TVirtualTabFindAdapter", "TVirtualTab");
+    Add<TVirtualTabFindAdapter>(registry, "TVirtualTabControlTabFindAdapter", "TVirtualTabControlTab");
+    Add<TPopupMenuFindAdapter>(registry, "TPopupMenuFindAdapter", "TPopupMenu");
+    Add<TTBXImageTabSetFindAdapter>(registry, "TTBXImageTabSetFindAdapter", "TTBXImageTabSet");
+    Add<TTMenuItemFindAdapter>(registry, "TTMenuItemFindAdapter", "TMenuItem");
+    Add<TVirtualTabFindAdapter>(registry, "TTBXImageVirtualTabFindAdapter", "TTBXImageVirtualTab");
+    Add<TShellComboBoxFindAdapter>(registry, "TShellComboBoxFindAdapter", "TShellComboBox");
+    Add<TTBXPageControlFindAdapter>(registry, "TTBXPageControlFindAdapter", "TTBXPageControl");
+    Add<TListViewFindAdapter>(registry, "TListViewFindAdapter", "TCustomListView");
     Add<TVirtualWinControlFinder>(registry, "TVirtualWinControlFinder", "TVirtualWinControl");
 }
 

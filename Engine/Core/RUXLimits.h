@@ -29,5 +29,8 @@ inline constexpr std::size_t LocatorPositionLimit = 32;
 inline constexpr std::size_t VirtualTextLimit = std::size_t{64} << 20;
 /// Nodes of a native tree that one path is looked for in: the tree may answer as if it had no end.
 inline constexpr std::size_t VirtualNodeLimit = std::size_t{1} << 20;
+/// Bytes of a file of definitions, and elements within each other in it.
+inline constexpr std::size_t XmlByteLimit = std::size_t{16} << 20;
+inline constexpr std::size_t XmlDepthLimit = 256;
 
 }  // namespace rux

@@ -41,9 +41,13 @@ class TRUXIntfDefine {
 
     /// With its leading I.
     std::string Name;
+    /// As a file of definitions has it; nothing asks for it.
+    std::string DefaultMethod;
 
     /// The reference holds until the methods are sorted.
     TRUXMethodDefine& AddMethod(std::string_view name);
+    /// There must be one.
+    TRUXMethodDefine& LastMethod() { return FMethods.back(); }
     /// By the codes of the names' characters; methods of one name keep their order.
     void SortMethods();
     std::size_t Count() const { return FMethods.size(); }
@@ -59,6 +63,11 @@ class TRUXIntfDefineList {
     /// Appends a definition with the methods of the interface and its ancestors, sorted. A name may be there
     /// already: the search finds the first.
     void AddInterface(const TInterfaceInfo& info);
+    /// Appends what an XML file defines: interfaces in the document element, methods in them, parameters in
+    /// those, whatever the elements are called. Methods stay in the order of the file and have no result. An
+    /// absent file and one without an element add nothing. Raises EXMLError, and then adds nothing either,
+    /// for a file that cannot be read, is no XML or lacks an attribute. User-interface thread, at start.
+    void LoadFromFile(const std::string& name);
     /// nil for a name that is not defined. Compared without case.
     const TRUXIntfDefine* FindDefine(std::string_view name) const;
     std::size_t Count() const { return FDefines.size(); }

@@ -6,6 +6,8 @@
 #include "Engine/Registry/RUXGroupClassFile.h"
 #include "Engine/Registry/RUXIntfDefine.h"
 #include "Engine/Registry/RUXTypeRegistry.h"
+#include "platform/KernelService.h"
+#include "rtl/Text.h"
 
 namespace rux {
 
@@ -24,6 +26,8 @@ constexpr const TInterfaceInfo* CompiledInterfaces[] = {
 
 void RegisterEverything(TEngineState& state) {
     for (const TInterfaceInfo* info : CompiledInterfaces) state.IntfDefines->AddInterface(*info);
+    // What a file defines over again is never found.
+    state.IntfDefines->LoadFromFile(ChangeFileExt(Platform().Kernel.GetLibraryName(), ".idf"));
     RegisterParserFinders(*state.Registry);
     RegisterTestAdapters(*state.Registry);
     RegisterFinders(*state.Registry);

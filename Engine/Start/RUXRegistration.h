@@ -19,7 +19,8 @@ struct TFinderOrderRow {
 std::span<const TAdapterOrderRow> AdapterOrder();
 std::span<const TFinderOrderRow> FinderOrder();
 
-/// Fills the class lists, the groups and the interface definitions.
+/// Fills the class lists, the groups and the interface definitions. Raises EXMLError for a faulty file of
+/// definitions beside the library: the engine then does not start.
 void RegisterEverything(TEngineState& state);
 
 }  // namespace rux

@@ -112,6 +112,7 @@
       '已审核'
       '已发货'
       '已作废')
+    ExtendedSelect = False
     MultiSelect = True
     TabOrder = 2
     OnClick = lstStatusClick

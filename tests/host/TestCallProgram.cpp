@@ -74,8 +74,6 @@ TEST_F(CallProgram, RequestsAndScripts) {
         many += "联系电话>?TEdit$SetText(" + text + ") => 212\n联系电话>?TEdit$GetText => 211 " + text + "\n";
     }
     EXPECT_TRUE(Call({"-f", Folder.File("many.rux", many)}).ends_with("\n= 0"));
-    const std::string sample = Call({"-f", RUX_SOURCE_DIR "/examples/orders.rux"});
-    EXPECT_TRUE(sample.ends_with("\n> ClearServer\n212 \nTrue\n= 0")) << sample;
 }
 
 TEST(CallProgramAlone, BytesOnTheWire) {

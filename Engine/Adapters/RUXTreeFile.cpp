@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "Engine/Core/RUXEngineState.h"
+#include "Engine/Core/RUXLimits.h"
 #include "platform/FileService.h"
 #include "rtl/Text.h"
 
@@ -22,7 +23,7 @@ TTreeFileReader::TTreeFileReader(const std::string& fileName) {
 bool TTreeFileReader::Next(std::string& path) {
     if (FNext >= static_cast<long long>(FLines.Count())) return false;
     const std::string& line = FLines[FNext++];
-    const std::size_t above = std::min(line.find_first_not_of("\t "), line.size());
+    const std::size_t above = std::min({line.find_first_not_of("\t "), line.size(), TreeFileDepthLimit});
     FRow.resize(above + 1);
     FRow.back() = Trim(line);
     path = JoinDelimited(FRow, '/');

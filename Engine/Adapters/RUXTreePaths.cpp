@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "Engine/Core/RUXClasses.h"
+#include "Engine/Core/RUXEngineState.h"
+#include "Engine/Core/RUXLimits.h"
 #include "platform/toolkit/ComCtrls.h"
 #include "rtl/CodePage.h"
 #include "rtl/RegExpr.h"
@@ -17,9 +19,16 @@ namespace {
 /// A path that is held against many nodes of one tree.
 class TNodePattern {
  public:
-    explicit TNodePattern(const std::string& path) : FPath(path), FSlashed("/" + path + "/") {
-        FPlain = path.find_first_of(std::string_view("*+?{|()[.^$\\\0", 13)) == path.npos;
-        if (!FPlain) Compile();
+    explicit TNodePattern(const std::string& path) : FPath(path), FOpenEnd(path.ends_with(".*")) {
+        const std::string_view rest(path.data(), path.size() - (FOpenEnd ? 2 : 0));
+        FPlain = rest.find_first_of(std::string_view("*+?{|()[.^$\\\0", 13)) == rest.npos;
+        if (!FPlain) {
+            Compile();
+            return;
+        }
+        FBytes.append("/").append(rest);
+        FBack = FBytes.size();
+        if (!FOpenEnd) FBytes += '/';
     }
 
     /// `slashed` is the node's path between two slashes. Its first `known` bytes have been held against this
@@ -32,32 +41,42 @@ class TNodePattern {
  private:
     void Compile() {
         try {
-            FExpression.emplace(FSlashed);
+            FExpression.emplace("/" + FPath + "/");
         } catch (const Exception&) {
             // Texts may still equal it.
         }
     }
 
-    /// What an expression without operators finds, at the price of a search for bytes.
+    /// What an expression without operators finds, or with `.*` at its end alone, at the price of a search
+    /// for bytes: that end goes up to the last slash.
     bool PlainMatches(std::string_view slashed, std::size_t known) const {
-        const std::size_t start = known < FSlashed.size() ? 0 : known - FSlashed.size() + 1;
+        if (FOpenEnd) slashed.remove_suffix(1);
+        const std::size_t start = known < FBack ? 0 : known - FBack;
         // Bytes may begin within a character; that is rare enough to ask again.
-        return slashed.find(FSlashed, start) != slashed.npos && AnsiPos(FSlashed, slashed) > 0;
+        return slashed.find(FBytes, start) != slashed.npos && AnsiPos(FBytes, slashed) > 0;
     }
 
     bool ExpressionMatches(std::string_view slashed) {
-        if (!FExpression || !FExpression->Exec(slashed, FBudget)) {
-            // An expression that goes astray in one node does so in many, and they share the time of two.
-            if (FExpression && FExpression->BudgetExceeded()) FBudget /= 2;
-            return false;
-        }
-        return true;
+        if (!FExpression) return false;
+        if (FExpression->Exec(slashed, FBudget)) return true;
+        if (FExpression->BudgetExceeded()) GoneAstray();
+        return false;
     }
 
-    const std::string FPath, FSlashed;
+    /// An expression that goes astray in one node does so in many, and they share the time of two.
+    void GoneAstray() {
+        if (FBudget == TreeNodeStepBudget) GetLogger().Warn("Tree path " + FPath + ": too many steps");
+        FBudget /= 2;
+    }
+
+    const std::string FPath;
+    const bool FOpenEnd;
     bool FPlain = false;
+    /// Without operators: what is looked for, and how far before a known end a new place may begin.
+    std::string FBytes;
+    std::size_t FBack = 0;
     std::optional<TRegExpr> FExpression;
-    std::uint64_t FBudget = RegExprStepBudget;
+    std::uint64_t FBudget = TreeNodeStepBudget;
 };
 
 std::string Escaped(std::string path) {

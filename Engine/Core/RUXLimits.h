@@ -29,6 +29,11 @@ inline constexpr std::size_t LocatorPositionLimit = 32;
 inline constexpr std::size_t VirtualTextLimit = std::size_t{64} << 20;
 /// Nodes of a native tree that one path is looked for in: the tree may answer as if it had no end.
 inline constexpr std::size_t VirtualNodeLimit = std::size_t{1} << 20;
+/// Steps that an expression has for the path of one node; a search through a tree has twice as many in all
+/// for the nodes in which it goes beyond that.
+inline constexpr std::uint64_t TreeNodeStepBudget = 5'000'000;
+/// Levels above a line of a file of nodes: its blanks alone make them.
+inline constexpr std::size_t TreeFileDepthLimit = std::size_t{1} << 16;
 /// Bytes of a file of definitions, and elements within each other in it.
 inline constexpr std::size_t XmlByteLimit = std::size_t{16} << 20;
 inline constexpr std::size_t XmlDepthLimit = 256;

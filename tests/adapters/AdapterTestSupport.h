@@ -27,6 +27,9 @@ class TWatchedKernel final : public TPosixKernel {
     ~TWatchedKernel() override { WaitForAllThreads(); }
     std::function<void(std::uint32_t)> OnSleep;
     void Sleep(std::uint32_t milliseconds) override { OnSleep(milliseconds); }
+    /// The log lies beside it.
+    std::string ModuleName;
+    std::string GetModuleName() override { return ModuleName; }
 };
 
 class TAdapterTest : public testing::Test {

@@ -1,5 +1,6 @@
 // What the adapters of tabs, pages and status bars do to the desktop, step by step.
 #include "AdapterTestSupport.h"
+#include "platform/headless/toolkit/HPageControl.h"
 
 namespace rux::test {
 
@@ -78,6 +79,15 @@ TEST_F(TTabAdapterTest, ActAsTold) {
         EXPECT_EQ(Run(row.Script), row.Answers) << row.Script;
         EXPECT_EQ(Journal(), row.Journal) << row.Script;
     }
+}
+
+TEST_F(TTabAdapterTest, APageThatGoesIsPutNowhereElse) {
+    auto& page = dynamic_cast<HTabSheet&>(*Find("P1"));
+    auto& shut = dynamic_cast<HPageControl&>(*Find("Shut"));
+    // P3 comes up instead.
+    Find("F")->DefineMethod("X", [&](HObject&, HEventArgs&) { page.SetParent(&shut); });
+    page.Free();
+    EXPECT_EQ(shut.PageCount(), 2);
 }
 
 }  // namespace rux::test

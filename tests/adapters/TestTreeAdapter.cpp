@@ -1,10 +1,14 @@
 // The language of node paths, and what scripts do to trees.
+#include <algorithm>
+
 #include "AdapterTestSupport.h"
 #include "Engine/Adapters/RUXTreeAdapters.h"
 #include "Engine/Adapters/RUXTreePaths.h"
+#include "Engine/Core/RUXServerUtils.h"
 #include "Engine/Locator/RUXTreeFindAdapters.h"
 #include "platform/headless/toolkit/HTreeView.h"
 #include "platform/posix/SystemNames.h"
+#include "rtl/Text.h"
 #include "tests/support/PosixGround.h"
 #include "tests/support/SmallStack.h"
 
@@ -60,6 +64,7 @@ constexpr std::pair<const char*, const char*> PathRows[] = {
     {"e//x|a(b)", "two/a(b)"},
     {"o.e/a|v.5", "one/a"},
     {"Long n", "Long name"},
+    {"one/a/", "one/a/b"},
     // Case counts in a part of a path, and a part begins where a text begins.
     {"A/b", "ERUXException: 找不到节点:A/b"},
     {"e/a", "ERUXException: 找不到节点:e/a"},
@@ -173,6 +178,9 @@ TEST_F(TTreeTest, FilesGoOutAndIn) {
     Files.WriteFile(name, "one\n  b\n a\n");
     EXPECT_EQ(select("Tree", name), "nothing");
     EXPECT_EQ(Run("Tree.Selected"), "one/a");
+    // Blanks without end are no levels without end.
+    Files.WriteFile(name, std::string(1 << 20, '\t') + "x\n");
+    EXPECT_LT(select("Tree", name).size(), 200'000u);
     EXPECT_EQ(select("Tree", "C:\\no\\t"),
               "EFOpenError: Cannot open file \"C:\\no\\t\". The system cannot find the file specified");
     EXPECT_EQ(save("Tree", "C:\\no\\t"),
@@ -193,18 +201,27 @@ TEST_F(TTreeTest, FilesGoOutAndIn) {
 
 TEST_F(TTreeTest, LongTextsAndDeepTreesNeedLittleStackAndTime) {
     const std::string longText(1'000'000, 'a');
-    Tree("None").AddNode(nullptr, longText);
+    for (const std::size_t size : {longText.size(), std::size_t{1000}})
+        Tree("None").AddNode(nullptr, longText.substr(0, size));
     HTreeNode* node = nullptr;
     for (int i = 0; i < 100'000; ++i) node = &Tree("Rich").AddNode(node, "d");
     node->SetText("bottom");
+    const TTemporaryFolder folder;
+    Kernel.ModuleName = NameFromSystem(folder.Path + "/t");
+    Engine.ServerPort = 1;
     OnSmallStack(1 << 20, [&] {
         TObject* first = Tree("None").GetFirstNode();
         for (const char* pattern : {"(a|b)*c", "a.*a.*a.*b", "["})
             EXPECT_FALSE(SearchNode(first, pattern)) << pattern;
+        // Told once for each search, not for each node.
+        const std::string log = Files.ReadFile(GetLogFileName()).value_or("");
+        EXPECT_EQ(std::ranges::count(log, '\n'), 2);
+        EXPECT_GT(AnsiPos("Tree path a.*a.*a.*b: too many steps", log), 0);
         EXPECT_EQ(SearchNode(first, longText), first);
         EXPECT_FALSE(SearchNode(first, longText + "b"));
         EXPECT_FALSE(SearchNode(first, longText + "+b"));
         EXPECT_EQ(SearchNode(Tree("Rich").GetFirstNode(), "bottom"), node);
+        EXPECT_EQ(SearchNode(Tree("Rich").GetFirstNode(), "d/bott.*"), node);
         EXPECT_EQ(GetNodePath(node).size(), 200'004u);
     });
     EXPECT_EQ(Run("Rich.Select(bottom); Rich.GetText"), "; bottom");

@@ -1,11 +1,13 @@
 // Drawing, pictures of windows and of the screen, and as the agent saves them: names, files, failures.
 #include <fstream>
+#include <functional>
 
 #include "Engine/TaskCenter/RUXJpeg.h"
 #include "Engine/TaskCenter/RUXWindowPic.h"
 #include "platform/headless/drawing/HCanvas.h"
 #include "platform/headless/toolkit/HButtons.h"
 #include "platform/headless/toolkit/HItems.h"
+#include "platform/headless/toolkit/HListView.h"
 #include "tests/support/EngineFixture.h"
 #include "tests/support/Jpeg.h"
 
@@ -224,6 +226,25 @@ TEST_F(TPictureTest, AChangeOfAControlShowsWithinIt) {
                 << name << " changes at " << r.Left << "," << r.Top << "," << r.Right << "," << r.Bottom;
         }
     }
+}
+
+TEST_F(TPictureTest, AReportMarksRowsAndAlignsColumns) {
+    HCustomForm& form = Load(R"(object Form1: TForm1 ClientWidth = 300 ClientHeight = 200
+      object V: TListView Width = 200 Height = 100 BorderStyle = bsNone ViewStyle = vsReport
+        HideSelection = False RowSelect = True Checkboxes = True
+        Columns = <item Width = 60 end item Width = 100 Alignment = taRightJustify end> end end)");
+    auto& view = dynamic_cast<HCustomListView&>(*form.FindComponent("V"));
+    HListItem& item = view.AddItem("");
+    const int top = item.DisplayRect(TDisplayCode::Bounds).Top;
+    const auto changes = [&](const std::function<void()>& change) {
+        const TBitmap before = Print(view.Handle());
+        change();
+        return Difference(before, Print(view.Handle()));
+    };
+    EXPECT_GT(changes([&] { item.SubItems().SetLines({"y"}); }).Left, 140);
+    // The tick is that of a check box.
+    EXPECT_EQ(changes([&] { item.SetChecked(true); }), (TRect{4, top + 4, 11, top + 11}));
+    EXPECT_EQ(changes([&] { item.SetSelected(true); }), (TRect{16, top, 160, top + 16}));
 }
 
 TEST_F(TPictureTest, ThePrintLacksWhatLiesOverTheWindowAndTheScreenHasIt) {

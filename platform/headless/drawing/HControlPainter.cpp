@@ -94,8 +94,8 @@ HObject* LookPart(const HObject& object, std::string_view property) {
     return object.Kit().Find(static_cast<std::uint64_t>(value->Ordinal));
 }
 
-HTextAlign LookAlignment(const HControl& control, std::string_view property, HTextAlign fallback) {
-    const std::string name = LookName(control, property);
+HTextAlign LookAlignment(const HObject& object, std::string_view property, HTextAlign fallback) {
+    const std::string name = LookName(object, property);
     if (name == "taLeftJustify") return HTextAlign::Left;
     if (name == "taRightJustify") return HTextAlign::Right;
     return name == "taCenter" ? HTextAlign::Center : fallback;

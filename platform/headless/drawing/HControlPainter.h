@@ -36,7 +36,7 @@ int LookInt(const HObject& object, std::string_view property, int fallback = 0);
 std::string LookName(const HObject& object, std::string_view property);
 /// A part or another object; nil for none.
 HObject* LookPart(const HObject& object, std::string_view property);
-HTextAlign LookAlignment(const HControl& control, std::string_view property, HTextAlign fallback);
+HTextAlign LookAlignment(const HObject& object, std::string_view property, HTextAlign fallback);
 /// A colour of the object's own, else the fallback.
 TColor LookColor(const HObject& object, TColor fallback);
 /// A colour of its own, else that of what it stands on.

@@ -4,13 +4,14 @@
 #include "platform/headless/HLimits.h"
 #include "platform/headless/drawing/HControlPainter.h"
 #include "platform/headless/drawing/HFramePainter.h"
+#include "platform/headless/toolkit/HButtons.h"
 #include "platform/headless/toolkit/HListView.h"
 
 namespace rux {
 
 namespace {
 
-constexpr int TextMargin = 2;
+constexpr int TextMargin = 2, HeaderMargin = 4;
 
 class TViewPainter {
  public:
@@ -18,6 +19,7 @@ class TViewPainter {
         : FView(view), FCanvas(canvas), FLayout(view.Layout()), FInk(LookInk(view)) {
         FFocused = view.Focused();
         FShowsSelection = FFocused || LookInt(view, "HideSelection") == 0;
+        FRowSelect = FLayout.Style == TViewStyle::Report && LookInt(view, "RowSelect") != 0;
     }
 
     void Paint() {
@@ -35,39 +37,52 @@ class TViewPainter {
         for (int i = 0; i < FView.ColumnCount() && left < FLayout.ClientWidth; ++i) {
             const int right = left + FView.ColumnWidth(i);
             FCanvas.Edge({left, 0, right, FLayout.HeaderHeight}, HEdge::Raised);
-            FCanvas.Text({left + 4, 0, right - 3, FLayout.HeaderHeight}, FView.ColumnCaption(i), FInk);
+            FCanvas.Text({left + HeaderMargin, 0, right - HeaderMargin, FLayout.HeaderHeight},
+                         FView.ColumnCaption(i), FInk, AlignmentOf(i));
             left = right;
         }
     }
 
     void PaintItem(int index) {
         HListItem& item = FView.ItemAt(index);
+        const TRect row = FLayout.Bounds(index);
         const TRect label = FLayout.Label(index, HCanvas::TextWidth(item.CaptionRef()));
         const bool chosen = item.IsSelected() && FShowsSelection;
         const TColor ink = chosen && FFocused ? clHighlightText : FInk;
-        if (chosen) FCanvas.Fill(label, FFocused ? clHighlight : clBtnFace);
+        const TRect marked{label.Left, label.Top, FRowSelect ? row.Right : label.Right, label.Bottom};
+        if (chosen) FCanvas.Fill(marked, FFocused ? clHighlight : clBtnFace);
         FCanvas.Text({label.Left + TextMargin, label.Top, label.Right, label.Bottom}, item.CaptionRef(), ink);
         if (FLayout.CheckBoxes) PaintCheckBox(FLayout.CheckBox(index), item.IsChecked());
         if (FLayout.Icons || FLayout.Style == TViewStyle::Icon) PaintIcon(FLayout.Icon(index));
-        if (FLayout.Style == TViewStyle::Report) PaintSubItems(item, FLayout.Bounds(index));
+        if (FLayout.Style == TViewStyle::Report) PaintSubItems(item, row, FRowSelect ? ink : FInk);
     }
 
-    void PaintSubItems(HListItem& item, const TRect& row) {
+    void PaintSubItems(HListItem& item, const TRect& row, TColor ink) {
         const std::vector<std::string>& texts = item.SubItems().Lines();
         int left = row.Left + FLayout.FirstColumn;
         for (int i = 1; i < FView.ColumnCount() && left < FLayout.ClientWidth; ++i) {
             const int right = left + FView.ColumnWidth(i);
             const auto place = static_cast<std::size_t>(i - 1);
             if (place < texts.size())
-                FCanvas.Text({left + TextMargin, row.Top, right, row.Bottom}, texts[place], FInk);
+                FCanvas.Text({left + TextMargin, row.Top, right - TextMargin, row.Bottom}, texts[place], ink,
+                             AlignmentOf(i));
             left = right;
         }
     }
 
+    /// The first column is always aligned to the left.
+    HTextAlign AlignmentOf(int column) const {
+        if (column == 0) return HTextAlign::Left;
+        const auto& columns = dynamic_cast<const HCollection&>(*FView.ColumnsObject());
+        return LookAlignment(*columns.Items()[static_cast<std::size_t>(column)], "Alignment",
+                             HTextAlign::Left);
+    }
+
     void PaintCheckBox(const TRect& place, bool checked) {
-        const TRect box{place.Left + 1, place.Top + 1, place.Right - 2, place.Bottom - 2};
-        FCanvas.Frame(box, clBtnShadow);
-        if (checked) FCanvas.Fill({box.Left + 3, box.Top + 3, box.Right - 3, box.Bottom - 3}, FInk);
+        const int top = (place.Top + place.Bottom - HMarkSize) / 2;
+        HCanvas inside = FCanvas.Clipped(place);
+        PaintCheckMark(inside, {place.Left + 1, top, place.Left + 1 + HMarkSize, top + HMarkSize},
+                       checked ? HCheckBoxState::cbChecked : HCheckBoxState::cbUnchecked, FView.IsEnabled());
     }
 
     /// A sheet of paper: the pictures themselves are not kept.
@@ -83,7 +98,7 @@ class TViewPainter {
     HCanvas& FCanvas;
     const HListLayout FLayout;
     const TColor FInk;
-    bool FFocused = false, FShowsSelection = false;
+    bool FFocused = false, FShowsSelection = false, FRowSelect = false;
 };
 
 void PaintListView(HControl& control, HCanvas& canvas, const TRect& room) {

@@ -32,7 +32,11 @@ int HTabSheet::TabIndex() {
 }
 
 void HTabSheet::SetParent(HWinControl* parent) {
-    if (FPageControl) FPageControl->RemovePage(*this);
+    if (parent && Destroying()) return;
+    if (HPageControl* before = std::exchange(FPageControl, nullptr)) before->RemovePage(*this);
+    // Code that was told of the page that came up instead may have freed this one, or its new parent, or put
+    // it elsewhere.
+    if (Dead() || FPageControl || (parent && parent->Dead())) return;
     HWinControl::SetParent(parent);
     FPageControl = dynamic_cast<HPageControl*>(parent);
     // Flat pages belong on flat controls; on any other one they are plain controls.
@@ -191,11 +195,9 @@ void HPageControl::SetActivePageObject(HObject* page) {
 }
 
 void HPageControl::ShowInstead(HTabSheet* page, HTabSheet* before) {
-    const HRef<HTabSheet> old(before);
-    if (page) {
-        page->SetBounds(PageRoom());
-        page->SetVisible(true);
-    }
+    const HRef<HTabSheet> old(before), shown(page);
+    if (shown) shown->SetBounds(PageRoom());
+    if (shown) shown->SetVisible(true);
     // Code that was told of it may have taken pages away or chosen another one.
     if (!Dead() && old && old.Get() != FActivePage) old->SetVisible(false);
 }
@@ -220,9 +222,11 @@ void HPageControl::Loaded() {
 void HPageControl::Arrange() {
     const TRect room = PageRoom();
     if (FActivePage) FActivePage->SetVisible(true);
+    // Code that is told of it may take pages away.
     for (std::size_t i = 0; i < FPages.size(); ++i) {
-        FPages[i]->SetBounds(room);
-        if (FPages[i] != FActivePage) FPages[i]->SetVisible(false);
+        const HRef<HTabSheet> page(FPages[i]);
+        page->SetBounds(room);
+        if (page && page->Control() == this && page.Get() != FActivePage) page->SetVisible(false);
     }
 }
 

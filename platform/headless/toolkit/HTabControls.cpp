@@ -1,5 +1,7 @@
 #include "platform/headless/toolkit/HTabControls.h"
 
+#include <algorithm>
+
 #include "platform/headless/HLimits.h"
 #include "platform/headless/toolkit/HClasses.h"
 #include "platform/headless/toolkit/HToolkit.h"
@@ -7,7 +9,9 @@
 namespace rux {
 
 TRect RoomBelowTabs(const HControl& control) {
-    return {HTabBorder, HTabHeight, control.Width() - HTabBorder, control.Height() - HTabBorder};
+    // A control too small for a page has one without a size.
+    return {HTabBorder, HTabHeight, std::max(HTabBorder, control.Width() - HTabBorder),
+            std::max(HTabHeight, control.Height() - HTabBorder)};
 }
 
 std::vector<HContentLine> TabLines(const std::vector<std::string>& texts, int chosen) {

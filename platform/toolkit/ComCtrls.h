@@ -44,7 +44,7 @@ class TCustomTreeView {
     static constexpr TFacetId Id = TFacetId::CustomTreeView;
     /// Of Items: all nodes in depth-first order.
     virtual int Count() = 0;
-    /// Raises as the toolkit does for an index outside: EListError.
+    /// Raises ETreeViewError "Invalid index" for an index outside.
     virtual TObject* Item(int index) = 0;
     /// nil for an empty tree.
     virtual TObject* GetFirstNode() = 0;

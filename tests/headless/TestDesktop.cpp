@@ -36,10 +36,12 @@ TEST(Desktop, PostedMessagesComeBeforeInputAndACharacterBeforeTheNextKey) {
     stage.Do("show F; pump");
     const HWnd edit = stage.Window("A");
     const TWndProc before = stage.Desktop.GetWindowProc(edit);
-    stage.Desktop.SetWindowProc(edit, stage.Desktop.MakeObjectInstance([&](HWnd window, auto... message) {
+    // It is called until the stage goes.
+    const auto describe = [&stage, before](HWnd window, auto... message) {
         stage.Record(DescribeMessage(message...));
         return stage.Desktop.CallWindowProcA(before, window, message...);
-    }));
+    };
+    stage.Desktop.SetWindowProc(edit, stage.Desktop.MakeObjectInstance(describe));
     stage.Do("key 65; keydown 66");
     stage.Desktop.PostMessageA(edit, WM_MINE, 1, 2);
     TMessage found;

@@ -24,7 +24,7 @@ void TSolviComboBoxAdapter::OpenCloseDropDown() {
 
 void TSolviComboBoxAdapter::SelectComboIndex(std::int32_t index) {
     Cast<TCustomCombo>(FControl).SetItemIndex(index);
-    Cast<TControl>(FControl).Perform(CN_COMMAND, WParam{CBN_SELCHANGE} << 16, 0);
+    TellComboChosen(FControl);
 }
 
 void TSolviComboBoxAdapter::Select(const std::string& AName) {

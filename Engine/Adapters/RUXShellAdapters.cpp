@@ -55,13 +55,9 @@ std::string TShellListViewAdapter::Selected() {
 
 // ------------------------------------------------------------------------------------------ combo box
 
-void TShellComboBoxAdapter::TellChosen() const {
-    Cast<TControl>(FControl).Perform(CN_COMMAND, WParam{CBN_SELCHANGE} << 16, 0);
-}
-
 void TShellComboBoxAdapter::Select(const std::string& AName) {
     Cast<TShellComboBox>(FControl).SetPath(AName);
-    TellChosen();
+    TellComboChosen(FControl);
 }
 
 void TShellComboBoxAdapter::SelectByIndex(std::int32_t AIdx) {
@@ -87,7 +83,7 @@ void TShellComboBoxAdapter::SetText(const std::string& S) {
     const int index = Cast<TCustomCombo>(FControl).Items().IndexOf(S);
     if (index < 0) RaiseAdapterError(Ansi("找不到文件：") + S);
     Cast<TCustomCombo>(FControl).SetItemIndex(index);
-    TellChosen();
+    TellComboChosen(FControl);
 }
 
 }  // namespace rux

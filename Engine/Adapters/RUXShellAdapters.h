@@ -44,9 +44,6 @@ class TShellComboBoxAdapter final : public TAdapterOf<TRUXControlAdapter, "TShel
     std::string GetText() override;
     /// By the item's text; EAdapterException for a text that no item has.
     void SetText(const std::string& S) override;
-
- private:
-    void TellChosen() const;
 };
 
 }  // namespace rux

@@ -80,13 +80,12 @@ std::string TRUXFindAdapter::GetPropValue(std::string_view name) {
 
 bool TRUXFindAdapter::IsMatch(const TTextMatcher& text) {
     if (const std::string caption = GetCaption(); !IsBlank(caption)) return text.Matches(caption);
-    if (!IsBlank(GetContent())) return IsContentMatch(text);
+    if (const std::string content = GetContent(); !IsBlank(content)) return IsContentMatch(text, content);
     const TPropertyNames& names = Engine().PropertyNames;
     return text.Matches(FirstText(names.Hint, names.Name));
 }
 
-bool TRUXFindAdapter::IsContentMatch(const TTextMatcher& text) {
-    const std::string content = GetContent();
+bool TRUXFindAdapter::IsContentMatch(const TTextMatcher& text, const std::string& content) {
     return text.PartMatch() ? text.Matches(Trim(content)) : MatchContentPrefix(Trim(content), text.Text());
 }
 

@@ -52,7 +52,7 @@ class TRUXFindAdapter : public TInterfacedObject<IFindAdapter, int> {
     std::string GetPropValue(std::string_view name) final;
 
     /// How a text names the content, when there is one and no caption.
-    virtual bool IsContentMatch(const TTextMatcher& text);
+    virtual bool IsContentMatch(const TTextMatcher& text, const std::string& content);
     /// What lies directly below; nil for nothing.
     virtual std::unique_ptr<TChildWalk> StartWalk() { return nullptr; }
 

@@ -16,8 +16,8 @@ std::string TListViewFindAdapter::GetContent() {
     return text;
 }
 
-bool TListViewFindAdapter::IsContentMatch(const TTextMatcher& text) {
-    return MatchContentList(text.Text(), GetContent(), text.PartMatch());
+bool TListViewFindAdapter::IsContentMatch(const TTextMatcher& text, const std::string& content) {
+    return MatchContentList(text.Text(), content, text.PartMatch());
 }
 
 std::string TShellComboBoxFindAdapter::GetCaption() {

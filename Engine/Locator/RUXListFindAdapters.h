@@ -12,7 +12,7 @@ class TListViewFindAdapter : public TWinControlFindAdapter {
  public:
     using TWinControlFindAdapter::TWinControlFindAdapter;
     std::string GetContent() override;
-    bool IsContentMatch(const TTextMatcher& text) override;
+    bool IsContentMatch(const TTextMatcher& text, const std::string& content) override;
 };
 
 class TShellComboBoxFindAdapter : public TWinControlFindAdapter {

@@ -32,6 +32,16 @@ class TWatchedKernel final : public TPosixKernel {
     std::string GetModuleName() override { return ModuleName; }
 };
 
+/// What a script of calls answers, and the journal that it leaves.
+struct TRow {
+    const char* Script;
+    const char* Answers;
+    const char* Journal;
+};
+inline void PrintTo(const TRow& row, std::ostream* out) {
+    *out << row.Script;
+}
+
 class TAdapterTest : public testing::Test {
  protected:
     /// Loads these forms, one of them named F, else those that the general rows are about. In a form file X
@@ -46,6 +56,10 @@ class TAdapterTest : public testing::Test {
     std::string Run(std::string_view script);
     /// The desktop's journal since the last look.
     std::string Journal();
+    void Play(const TRow& row) {
+        EXPECT_EQ(Run(row.Script), row.Answers) << row.Script;
+        EXPECT_EQ(Journal(), row.Journal) << row.Script;
+    }
 
     TManualClock Clock;
     TWatchedKernel Kernel{Clock};

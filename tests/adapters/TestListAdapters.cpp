@@ -35,16 +35,6 @@ class TListTest : public TAdapterTest {
     TListTest() : TAdapterTest({Form}) {}
 };
 
-struct TRow {
-    const char* Script;
-    const char* Answers;
-    const char* Journal;
-};
-
-void PrintTo(const TRow& row, std::ostream* out) {
-    *out << row.Script;
-}
-
 constexpr TRow Rows[] = {
     {"One.SelectByIndex(2); One.Selected; One.GetCount", "; B; 5",
      "cursor 156,144; send F.One WM_LBUTTONDOWN 0 50,19; event F.One OnEnter X; event F.One OnMouseDown X; "
@@ -112,9 +102,7 @@ constexpr TRow Rows[] = {
 class TListRowTest : public TListTest, public testing::WithParamInterface<TRow> {};
 
 TEST_P(TListRowTest, ActsAsTold) {
-    const TRow& row = GetParam();
-    EXPECT_EQ(Run(row.Script), row.Answers);
-    EXPECT_EQ(Journal(), row.Journal);
+    Play(GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(Lists, TListRowTest, testing::ValuesIn(Rows));

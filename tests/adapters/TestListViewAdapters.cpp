@@ -13,16 +13,6 @@ namespace rux::test {
 
 namespace {
 
-struct TRow {
-    const char* Script;
-    const char* Answers;
-    const char* Journal;
-};
-
-void PrintTo(const TRow& row, std::ostream* out) {
-    *out << row.Script;
-}
-
 constexpr std::string_view ViewForm =
     R"(object F: TForm Left = 100 Top = 100 Width = 600 Height = 400 Visible = True ActiveControl = Other
          object Other: TEdit end

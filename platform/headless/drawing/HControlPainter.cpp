@@ -77,10 +77,8 @@ void PaintControl(HWinControl& control, HCanvas& canvas, const HWindow& window) 
 }
 
 int LookInt(const HObject& object, std::string_view property, int fallback) {
-    const TPropValue* value = object.Kept(InternName(property));
-    if (!value) return fallback;
     constexpr std::int64_t limit = 1 << 20;
-    return static_cast<int>(std::clamp(value->Ordinal, -limit, limit));
+    return static_cast<int>(std::clamp(object.KeptOrdinal(InternName(property), fallback), -limit, limit));
 }
 
 std::string LookName(const HObject& object, std::string_view property) {

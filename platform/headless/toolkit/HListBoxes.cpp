@@ -11,8 +11,7 @@ namespace rux {
 namespace {
 
 int KeptNumber(const HObject& object, TName name, int fallback) {
-    const TPropValue* value = object.Kept(name);
-    return value ? static_cast<int>(std::clamp<std::int64_t>(value->Ordinal, 0, HCoordLimit)) : fallback;
+    return static_cast<int>(std::clamp<std::int64_t>(object.KeptOrdinal(name, fallback), 0, HCoordLimit));
 }
 
 }  // namespace

@@ -41,14 +41,12 @@ void HCustomListView::Detach() {
 }
 
 bool HCustomListView::Flag(std::string_view property) const {
-    const TPropValue* value = Kept(FindName(property));
-    return value && value->Ordinal != 0;
+    return KeptOrdinal(FindName(property)) != 0;
 }
 
 TViewStyle HCustomListView::ViewStyle() {
     static const TName name = InternName("ViewStyle");
-    const TPropValue* value = Kept(name);
-    return value ? static_cast<TViewStyle>(std::clamp<std::int64_t>(value->Ordinal, 0, 3)) : TViewStyle::Icon;
+    return static_cast<TViewStyle>(std::clamp<std::int64_t>(KeptOrdinal(name), 0, 3));
 }
 
 // ------------------------------------------------------------------------------------------ items, columns
@@ -113,8 +111,7 @@ std::string HCustomListView::ColumnCaption(int index) {
 int HCustomListView::ColumnWidth(int index) const {
     static const TName width = InternName("Width");
     const HObject& column = *FColumns->Items()[static_cast<std::size_t>(index)];
-    const TPropValue* value = column.Kept(width);
-    const std::int64_t stored = value ? value->Ordinal : 0;
+    const std::int64_t stored = column.KeptOrdinal(width);
     // Below 0: as wide as the texts need it.
     if (stored < 0) return HCanvas::TextWidth(CaptionOf(column)) + HeaderMargin;
     return static_cast<int>(std::min<std::int64_t>(stored, HCoordLimit));

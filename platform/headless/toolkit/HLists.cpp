@@ -6,9 +6,8 @@ namespace rux {
 
 HInsets BorderInsets(const HObject& object) {
     static const TName borderStyle = InternName("BorderStyle");
-    const TPropValue* style = object.Kept(borderStyle);
     // bsNone is 0.
-    if (!style || style->Ordinal == 0) return {};
+    if (object.KeptOrdinal(borderStyle) == 0) return {};
     return {HClientEdge, HClientEdge, HClientEdge, HClientEdge};
 }
 

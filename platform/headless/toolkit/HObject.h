@@ -56,6 +56,11 @@ class HObject : public TObject {
     const TPropValue* Stored(TName name) const;
     /// The same, else the default of its class; nil for a property that neither has.
     const TPropValue* Kept(TName name) const;
+    /// The number of what is kept, the fallback where nothing is.
+    std::int64_t KeptOrdinal(TName name, std::int64_t fallback = 0) const {
+        const TPropValue* value = Kept(name);
+        return value ? value->Ordinal : fallback;
+    }
     /// Reads that as a property: what was freed is nil, and a part is made when it is first asked for.
     bool GetKept(TName name, TPropValue& value);
     void Store(TName name, TPropValue value);

@@ -102,8 +102,7 @@ void HShellListView::Loaded() {
 
 void HShellListView::EnterSelected() {
     static const TName autoNavigate = InternName("AutoNavigate");
-    const TPropValue* navigates = Kept(autoNavigate);
-    if (navigates && navigates->Ordinal == 0) return;
+    if (KeptOrdinal(autoNavigate, 1) == 0) return;
     const auto index = static_cast<std::size_t>(SelectedIndex());
     if (index >= FEntries.size() || !FEntries[index].IsFolder) return;
     SetRoot(Below(RootFolder(Kit(), FRoot), FEntries[index].Name));
